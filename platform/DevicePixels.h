@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QPainter>
+
+// Makes the painter of a control work in device pixels, the control's corner on a whole one: at fractional
+// scales a control may start between two device pixels, and everything drawn there would blur.
+// Returns the scale: device pixels to a logical one.
+inline qreal UseDevicePixels(QPainter& painter) {
+    const QTransform toDevice = painter.deviceTransform();
+    const QPointF corner = toDevice.map(QPointF(0, 0));
+    const qreal scale = toDevice.m11();
+    painter.translate((corner.toPoint() - corner) / scale);
+    painter.scale(1 / scale, 1 / scale);
+    return scale;
+}

@@ -1,0 +1,25 @@
+#include "platform/Frame.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include "platform/DevicePixels.h"
+
+void Frame::BackColor(Colour colour) {
+    colour_ = ToQColor(colour);
+    update();
+}
+
+void Frame::Background(const ::Picture& picture) {
+    background_ = picture;
+    update();
+}
+
+void Frame::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), colour_);
+    if (background_.IsEmpty()) return;
+    QImage image = background_.At(UseDevicePixels(painter));
+    image.setDevicePixelRatio(1);
+    painter.drawImage(0, 0, image);
+}

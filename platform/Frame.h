@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QWidget>
+
+#include "platform/Control.h"
+#include "platform/Picture.h"
+
+// The frame control: a coloured or pictured sheet that holds other controls.
+class Frame : public MouseControl<QWidget> {
+public:
+    Frame(QWidget* parent, const Placement& placement) : MouseControl<QWidget>(parent, placement) {}
+
+    void BackColor(Colour colour);
+    void Background(const ::Picture& picture);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    ::Picture background_;
+    QColor colour_ = Qt::transparent;
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QDate>
+#include <chrono>
+#include <functional>
+#include <memory>
+
+// Something that falls due again and again until it is stopped.
+class Alarm {
+public:
+    virtual ~Alarm() = default;
+    // Falls due every `interval` from now on, afresh when it was running. Never while a handler runs that
+    // does not process events; several times missed fall due once.
+    virtual void Start(std::chrono::milliseconds interval) = 0;
+    virtual void Stop() = 0;
+};
+
+// All waiting, pending-event processing and timing of the game, so that tests need no real time.
+class Time {
+public:
+    virtual ~Time() = default;
+    // Holds the thread for `duration`; no event is handled meanwhile.
+    virtual void Wait(std::chrono::milliseconds duration) = 0;
+    // Lets what is pending run: input, paints, due alarms.
+    virtual void ProcessEvents() = 0;
+    // Today's date where the player is.
+    [[nodiscard]] virtual QDate Today() const = 0;
+    // An alarm, stopped at first, that calls `due`. It must not outlive this.
+    [[nodiscard]] virtual std::unique_ptr<Alarm> NewAlarm(std::function<void()> due) = 0;
+};
+
+// The time of the clock on the wall.
+class RealTime final : public Time {
+public:
+    void Wait(std::chrono::milliseconds duration) override;
+    void ProcessEvents() override;
+    [[nodiscard]] QDate Today() const override;
+    [[nodiscard]] std::unique_ptr<Alarm> NewAlarm(std::function<void()> due) override;
+};

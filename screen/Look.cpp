@@ -1,0 +1,67 @@
+#include "screen/Look.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace Look {
+namespace {
+
+const QString kFamily = QStringLiteral("Open Sans");
+
+struct Size {
+    int pixels;
+    QFont::Weight weight;
+};
+
+constexpr Size SizeOf(Text text) {
+    switch (text) {
+        case Text::Small:
+            return {11, QFont::Normal};
+        case Text::Normal:
+            return {12, QFont::Normal};
+        case Text::Heading:
+            return {13, QFont::DemiBold};
+        case Text::Number:
+            return {23, QFont::Bold};
+    }
+    return {12, QFont::Normal};
+}
+
+// Light stone for what holds text, the grey-blue of the table for what can be pressed.
+QPalette Palette() {
+    QPalette palette;
+    const QColor ink(32, 52, 100);
+    palette.setColor(QPalette::Window, QColor(0xF1, 0xEC, 0xDF));
+    palette.setColor(QPalette::WindowText, ink);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(0xF7, 0xF4, 0xEC));
+    palette.setColor(QPalette::Text, ink);
+    palette.setColor(QPalette::Button, QColor(0x9F, 0xB0, 0xD0));
+    palette.setColor(QPalette::ButtonText, QColor(0x12, 0x1C, 0x38));
+    palette.setColor(QPalette::Highlight, QColor(0x2F, 0x55, 0xA4));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, QColor(0xF1, 0xEC, 0xDF));
+    palette.setColor(QPalette::ToolTipText, ink);
+    palette.setColor(QPalette::PlaceholderText, QColor(0x60, 0x6C, 0x88));
+    return palette;
+}
+
+}  // namespace
+
+QFont Font(Text text) {
+    const Size size = SizeOf(text);
+    QFont font(kFamily);
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(size.pixels);
+    font.setWeight(size.weight);
+    return font;
+}
+
+void Apply(QApplication& application) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(Palette());
+    application.setFont(Font(Text::Normal));
+}
+
+}  // namespace Look

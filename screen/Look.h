@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QFont>
+
+#include "platform/Colour.h"
+
+class QApplication;
+
+// The one look of all windows: colours, the type family and its sizes.
+namespace Look {
+
+// Given colours, laid out 0x00BBGGRR.
+inline constexpr Colour kLitCaption = 0x50FE6A;  // the highlighted menu caption
+inline constexpr Colour kLevel = 0x643420;       // a level name, and the text of the light screens
+inline constexpr Colour kLink = 0xC00000;        // a web link
+inline constexpr Colour kTray = 0x808080;        // behind the board and the preview
+inline constexpr Colour kPanel = 0xE0E0E0;       // the name entry
+// The house's own.
+inline constexpr Colour kNumber = 0xA8DCF4;     // score and cards left: pale brass on the stone
+inline constexpr Colour kWell = 0xC4D6DC;       // the recesses that hold levels and skins
+inline constexpr Colour kEmptySlot = 0xD6E4EA;  // a slot without a skin
+
+enum class Text { Small, Normal, Heading, Number };
+// Sizes are in logical pixels; figures are tabular.
+[[nodiscard]] QFont Font(Text text);
+
+// Style, palette and font of the application. Called once, before the first window.
+void Apply(QApplication& application);
+
+}  // namespace Look

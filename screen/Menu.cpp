@@ -1,0 +1,153 @@
+// The menu bar, the level list and the two images at the window's corner.
+
+#include <QApplication>
+
+#include "model/Levels.h"
+#include "screen/Look.h"
+#include "screen/frmGame.h"
+#include "shell/mdlRegistry.h"
+#include "shell/mdlSound.h"
+
+namespace {
+
+constexpr std::int16_t kPlay = 0, kMenu = 1, kHelp = 2, kScore = 3, kMore = 4;
+
+// The bar's picture while button 0..3 is held down, and released.
+constexpr const char* kPressedBar[] = {"menubar-play", "menubar-menu", "menubar-help", "menubar-score"};
+constexpr const char* kReleasedBar = "menubar";
+
+bool OnBar(std::int16_t index) {
+    return index >= kPlay && index <= kScore;
+}
+
+}  // namespace
+
+void frmGame::imgButton_MouseDown(std::int16_t Index, std::int16_t, std::int16_t, float, float) {
+    if (OnBar(Index)) Image2.Picture(WindowArt(QLatin1String(kPressedBar[Index])));
+}
+
+void frmGame::imgButton_MouseUp(std::int16_t Index, std::int16_t, std::int16_t, float, float) {
+    if (OnBar(Index)) Image2.Picture(WindowArt(QLatin1String(kReleasedBar)));
+}
+
+void frmGame::imgButton_Click(std::int16_t Index) {
+    if (Index < kPlay || Index > kMore) return;
+    world_.random.Reseed();
+    for (Frame& screen : fraScreen) screen.Visible(false);
+    fraScreen[static_cast<std::size_t>(Index == kMore ? kHelp : Index)].Visible(true);
+    Timer1.Enabled(false);
+    Timer2.Enabled(false);
+    lblNextCard.Visible(false);
+    StopDemo = true;
+    if (const QString failure = RunAction(Index); !failure.isEmpty())
+        return world_.dialogs.Tell(this, failure);
+    Highlight(Index);
+    mdlSound::PlayWave(mdlSound::Wave(111));
+}
+
+QString frmGame::RunAction(std::int16_t menu) {
+    switch (menu) {
+        case kPlay:
+            return StartGame();
+        case kMenu:
+            ShowMenu();
+            break;
+        case kScore:
+            ShowScores();
+            break;
+        default:
+            ShowHelp();
+            break;
+    }
+    return {};
+}
+
+QString frmGame::StartGame() {
+    FinishSkinSlots();
+    for (PictureBox& cell : picMat) cell.Enabled(true);
+    if (QString failure = LoadSkin(); !failure.isEmpty()) {
+        play = Play::Off;
+        Game().RndAction(true);  // nothing is dealt: the board takes no keys until a game starts
+        return failure;
+    }
+    prbTime.Value(0);
+    Game().CardsUsed(0);
+    Game().CardSum(kCardsInGame);
+    Game().Score(0);
+    Game().SerieScore(0);
+    lblScore.Caption(QStringLiteral("0"));
+    lblSerieScore.Caption(QStringLiteral("0"));
+    lblCardsLeft.Caption(QString::number(kCardsInGame));
+    Game().NewGame();
+    Game().RndAction(false);
+    play = Play::On;
+    lblCardsLeft.Visible(true);
+    return {};
+}
+
+void frmGame::ShowMenu() {
+    FinishSkinSlots();
+    picPreview.Picture({});
+    prbTime.Value(0);
+}
+
+void frmGame::ShowHelp() {
+    lblNextCard.Visible(true);
+    picPreview.Picture({});
+}
+
+void frmGame::ShowScores() {
+    const auto stored = [](const char* column, std::size_t row) {
+        return mdlRegistry::ReadRegString(mdlRegistry::kCurrentUser, QLatin1String(column),
+                                          QString::number(row));
+    };
+    for (std::size_t row = 0; row < lblName.size(); ++row) {
+        lblName[row].Caption(stored("Software\\Tesselor\\Name", row));
+        lblDate[row].Caption(stored("Software\\Tesselor\\Date", row));
+        lblHighScore[row].Caption(stored("Software\\Tesselor\\Score", row));
+    }
+    picPreview.Picture({});
+    prbTime.Value(0);
+}
+
+// The high scores light no caption; the one lit before is remembered, and comes back with another button.
+void frmGame::Highlight(std::int16_t menu) {
+    if (menu != kScore && menu == CurrentMenu) return;
+    lblCaption[static_cast<std::size_t>(CurrentMenu)].ForeColor(kWhite);
+    if (menu == kScore) return;
+    lblCaption[static_cast<std::size_t>(menu)].ForeColor(Look::kLitCaption);
+    CurrentMenu = menu;
+}
+
+void frmGame::lblClass_Click(std::int16_t Index) {
+    if (Index < 0 || Index >= kLevels) return;
+    const auto level = static_cast<std::size_t>(Index);
+    lblClass[static_cast<std::size_t>(CurrentLevel)].ForeColor(Look::kLevel);
+    lblClass[level].ForeColor(kRed);
+    lblLevelName.Caption(lblClass[level].Caption());
+    lblLevelBack.Caption(lblClass[level].Caption());
+    CurrentLevel = Index;
+    Game().SetLevel(Index);
+    mdlSound::PlayWave(mdlSound::Wave(102));
+    shpTime.Visible(Index != 0);
+    prbTime.Visible(Index != 0);
+}
+
+void frmGame::lblClass_MouseMove(std::int16_t Index, std::int16_t, std::int16_t, float, float) {
+    if (Index == HoverLevel || Index < 0 || Index >= kLevels) return;
+    const Label& label = lblClass[static_cast<std::size_t>(Index)];
+    Shape1.Left(label.Left() - 2 * Shape1.Width());
+    Shape1.Top(label.Top() + Shape1.Height() / 2);
+    HoverLevel = Index;
+    mdlSound::PlayWave(mdlSound::Wave(103));
+}
+
+void frmGame::Image1_Click() {
+    StopDemo = true;
+    QApplication::closeAllWindows();
+    QCoreApplication::quit();
+}
+
+void frmGame::imgMinimaize_Click() {
+    showMinimized();
+}

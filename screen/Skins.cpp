@@ -1,0 +1,85 @@
+// The skins: which files fill the slots, the choice of one, and the picture set a game is played with.
+
+#include "screen/frmGame.h"
+#include "shell/mdlSound.h"
+
+namespace {
+
+const QString kSkinFolder = QStringLiteral("\\Art\\");
+constexpr int kFrameWidth = 2;
+constexpr QPoint kThumbnailCorner(-12, -12);  // the cell's outer edge is cut off in the slot
+constexpr QPoint kChosenCorner(-2, -2);
+
+void DrawFrame(PictureBox& slot, Colour colour) {
+    slot.DrawWidth(kFrameWidth);
+    slot.DrawBox({1, 1}, {slot.width() - 1, slot.height() - 1}, colour);
+}
+
+}  // namespace
+
+void frmGame::FillSkinSlots() {
+    SkinCount = 0;
+    for (const QString& file : world_.folder.Files(kSkinFolder)) {
+        if (static_cast<std::size_t>(SkinCount) == skinFile.size()) break;
+        if (!WhyNotASheet(world_.folder.Path(kSkinFolder + file)).isEmpty()) continue;
+        skinFile[static_cast<std::size_t>(SkinCount)] = file;
+        ++SkinCount;
+    }
+    picSkin_MouseUp(0, 0, 0, 0, 0);
+}
+
+// Decoding pictures takes far longer than showing the window, so it waits until the window is seen.
+void frmGame::FinishSkinSlots() {
+    if (skinsFinished_) return;
+    skinsFinished_ = true;
+    for (std::int16_t slot = 0; slot < SkinCount;) {
+        const QString path = world_.folder.Path(kSkinFolder + skinFile[static_cast<std::size_t>(slot)]);
+        if (!PicClipTemp.Load(path).isEmpty()) {
+            CloseUpSlot(slot);
+            continue;
+        }
+        picSkin[static_cast<std::size_t>(slot)].PaintPicture(PicClipTemp.Thumbnail(), kThumbnailCorner);
+        ++slot;
+    }
+    ChooseSkin(0);
+}
+
+void frmGame::CloseUpSlot(std::int16_t slot) {
+    std::move(skinFile.begin() + slot + 1, skinFile.end(), skinFile.begin() + slot);
+    skinFile.back().clear();
+    --SkinCount;
+}
+
+void frmGame::picSkin_MouseMove(std::int16_t Index, std::int16_t, std::int16_t, float, float) {
+    if (Index < 0 || Index >= SkinCount || Index == HoverSkin) return;
+    DrawFrame(picSkin[static_cast<std::size_t>(HoverSkin)], kWhite);
+    DrawFrame(picSkin[static_cast<std::size_t>(Index)], kRed);
+    HoverSkin = Index;
+    mdlSound::PlayWave(mdlSound::Wave(104));
+}
+
+void frmGame::picSkin_MouseUp(std::int16_t Index, std::int16_t, std::int16_t, float, float) {
+    if (Index < 0 || Index >= SkinCount) return;
+    ChooseSkin(Index);
+    mdlSound::PlayWave(mdlSound::Wave(102));
+}
+
+void frmGame::ChooseSkin(std::int16_t slot) {
+    const QString& file = skinFile[static_cast<std::size_t>(slot)];
+    PictureBox& box = picSkin[static_cast<std::size_t>(slot)];
+    DrawFrame(picSkin[static_cast<std::size_t>(CurrentSkin)], kWhite);
+    Game().SetSkinPicture(file.toStdString());
+    picCurrSkin.Clear();
+    picCurrSkin.PaintPicture(box.Image(), kChosenCorner);
+    lblSkinName.Caption(file.chopped(qMin<qsizetype>(4, file.size())));
+    CurrentSkin = slot;
+    DrawFrame(box, kRed);
+}
+
+QString frmGame::LoadSkin() {
+    const QString name = QString::fromStdString(Game().SetSkinPicture());
+    if (!name.isEmpty()) return PicClip1.Load(world_.folder.Path(kSkinFolder + name));
+    return QStringLiteral(
+               "There is no skin to play with. A skin is a picture of 3 x 13 cards; put one into %1.")
+        .arg(world_.folder.Path(kSkinFolder));
+}

@@ -1,0 +1,63 @@
+#include "screen/TimeBar.h"
+
+#include <QPainter>
+#include <cstring>
+#include <utility>
+
+#include "platform/DevicePixels.h"
+
+namespace {
+
+bool SameRow(const QImage& a, const QImage& b, int row) {
+    return std::memcmp(a.constScanLine(row), b.constScanLine(row), std::size_t(a.bytesPerLine())) == 0;
+}
+
+}  // namespace
+
+TimeBar::TimeBar(QWidget* parent, const Placement& placement, const PropertyBag& stored)
+    : Control<QWidget>(parent, placement), bar_(surface_, *this) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    bar_.UserControl_ReadProperties(stored);
+    FitSurface();
+}
+
+// Asks the window to repaint no more than the rows in which the bar differs from what the screen shows.
+void TimeBar::PropertyChanged(std::string_view /*key*/) {
+    const QImage& now = surface_.Pixels();
+    if (shown_.size() != now.size()) return update();
+    int first = 0, last = now.height() - 1;
+    while (first <= last && SameRow(now, shown_, first)) ++first;
+    while (last >= first && SameRow(now, shown_, last)) --last;
+    if (first > last) return;
+    const qreal scale = devicePixelRatioF();
+    update(QRectF(0, first / scale, width(), (last - first + 1) / scale).toAlignedRect());
+}
+
+void TimeBar::FitSurface() {
+    const qreal scale = devicePixelRatioF();
+    surface_.Resize((QSizeF(size()) * scale).toSize(), scale);
+    bar_.UserControl_Resize();
+}
+
+void TimeBar::resizeEvent(QResizeEvent* /*event*/) {
+    FitSurface();
+}
+
+void TimeBar::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const qreal scale = UseDevicePixels(painter);
+    if (surface_.Pixels().size() != (QSizeF(size()) * scale).toSize()) FitSurface();
+    shown_ = surface_.Pixels().copy();
+    painter.drawImage(0, 0, shown_);
+}
+
+PropertyValue TimeBarDesign::ReadProperty(std::string_view key, const PropertyValue& byDefault) const {
+    static const std::pair<std::string_view, PropertyValue> kStored[] = {
+        {"BackColour", std::int32_t{0x404040}},   {"BarStartColour", std::int32_t{0xE0E0E0}},
+        {"BarEndColour", std::int32_t{0xE0E0E0}}, {"BorderStyle", std::int16_t{0}},
+        {"FillDirection", std::int32_t{1}},       {"BarStyle", std::int32_t{0}},
+    };
+    for (const auto& [stored, value] : kStored)
+        if (stored == key) return value;
+    return byDefault;
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <functional>
+
+#include "model/RandomSource.h"
+#include "platform/Dialogs.h"
+#include "platform/ProgramFolder.h"
+#include "platform/Time.h"
+
+// What the game window needs of the world outside it. All of it must outlive the window.
+struct World {
+    Time& time;
+    RandomSource& random;
+    Dialogs& dialogs;
+    ProgramFolder folder;
+    std::function<void()> endAtOnce;  // ends the process without unloading anything
+};

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "model/GameScreen.h"
+
+class clsCard;
+class frmGame;
+
+// The screen procedures: what the model asks of the game window, and what several of the window's handlers
+// share.
+class mdlFormFunc final : public GameScreen {
+public:
+    explicit mdlFormFunc(frmGame& form) : form_(form) {}
+
+    // Drawing.cpp
+    void DrawCardMove(std::int16_t newCell, std::int16_t oldCell) override;
+    void DrawCardMoveOverCard(std::int16_t newCell, std::int16_t oldCell) override;
+    void DrawCardOverCard(std::int16_t cell) override;
+    void ResetBoardScreen() override;
+    void ShowCard(std::int16_t cell, std::int16_t kind) override;
+    void ClearPicture(std::int16_t cell) override;
+    void ClearDrawings(std::int16_t cell) override;
+    void DrawActiveFrame(std::int16_t cell) override;
+    void FlashCell(std::int16_t cell) override;
+    void KeepAside(std::int16_t cell) override;
+    void KeepNothingAside() override;
+    void ShowNextCard(std::int16_t kind) override;
+    // Hides the board behind the cover picture, cell by cell; holds the window for 800 milliseconds.
+    void CoverBoard();
+
+    // TurnCycle.cpp
+    void StartNextTurn() override;
+    void RestartLockTimers() override;
+    void ShowCardsLeft(std::int32_t cards) override;
+    bool PlayWave(std::int16_t resource) override;
+    bool PlaySoundFile(std::string_view source, std::uint32_t flags) override;
+
+    // HighScores.cpp
+    void GameOver() override;
+    // Creates the table of the four best when there is none. Called once, first of all in the window's
+    // set-up.
+    void InitHighScoreTable();
+
+private:
+    void MoveActiveCard(std::int16_t newCell, std::int16_t oldCell);
+    void ShadeActiveCell();
+
+    frmGame& form_;
+};

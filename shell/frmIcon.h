@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QDialog>
+
+#include "platform/Button.h"
+#include "platform/Label.h"
+
+// The notice that the display does not use small fonts. Its button, Escape and its close box all close it.
+class frmIcon final : public QDialog {
+public:
+    frmIcon();
+
+    Label Label1, Label2, Label3, Label4;
+    CommandButton Command1;
+};

@@ -1,0 +1,51 @@
+#include "shell/mdlMain.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QImageReader>
+#include <QLocale>
+#include <cstdlib>
+
+#include "platform/Dialogs.h"
+#include "platform/Time.h"
+#include "screen/Look.h"
+#include "screen/frmGame.h"
+#include "shell/ClockRandom.h"
+#include "shell/frmIcon.h"
+#include "shell/mdlFontSize.h"
+
+namespace {
+
+// The most memory one picture may take, in megabytes: no file can fill the machine.
+constexpr int kPictureMegabytes = 96;
+
+QIcon ProgramIcon() {
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+        icon.addFile(QStringLiteral(":/icon/tesselor-%1.png").arg(size), QSize(size, size));
+    return icon;
+}
+
+// The plain C locale has no digit grouping; whoever runs under it still wants to read a score.
+void ChooseLocale() {
+    if (QLocale::system().language() == QLocale::C) QLocale::setDefault(QLocale(QLocale::English));
+}
+
+}  // namespace
+
+int mdlMain::Main() {
+    ClockRandom random;
+    ChooseLocale();
+    QImageReader::setAllocationLimit(kPictureMegabytes);
+    Look::Apply(*qApp);
+    QGuiApplication::setWindowIcon(ProgramIcon());
+    if (!mdlFontSize::CheckSmallFonts()) {
+        frmIcon().exec();
+        return EXIT_SUCCESS;
+    }
+    RealTime time;
+    MessageBoxes dialogs;
+    frmGame form({time, random, dialogs, ProgramFolder::Find(), [] { std::_Exit(EXIT_SUCCESS); }});
+    form.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,31 @@
+#include "shell/mdlRegistry.h"
+
+#include "platform/RegistryHive.h"
+
+namespace mdlRegistry {
+namespace {
+
+RegistryHive* theHive = nullptr;
+
+// Only the current user's root is kept; any other is refused without a word.
+bool IsKept(std::uint32_t root) {
+    return theHive && root == kCurrentUser;
+}
+
+}  // namespace
+
+void Hive(RegistryHive* hive) {
+    theHive = hive;
+}
+
+QString ReadRegString(std::uint32_t root, const QString& path, const QString& name,
+                      const QString& defaultText) {
+    if (!IsKept(root)) return defaultText;
+    return theHive->String(path, name).value_or(defaultText);
+}
+
+void WriteRegString(std::uint32_t root, const QString& path, const QString& name, const QString& text) {
+    if (IsKept(root)) theHive->SetString(path, name, text);
+}
+
+}  // namespace mdlRegistry

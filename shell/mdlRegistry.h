@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <cstdint>
+
+class RegistryHive;
+
+// The string store: text values of the current user, addressed by root, key path and value name.
+namespace mdlRegistry {
+
+inline constexpr std::uint32_t kCurrentUser = 0x80000001;  // HKEY_CURRENT_USER
+
+// The store behind both operations; null, as at first, for none. It must outlive its use here.
+void Hive(RegistryHive* hive);
+
+// The text stored under `name` in the key `path` ("Software\Tesselor\Name"); `defaultText` when the key or
+// the value is missing, or the value is not a string.
+[[nodiscard]] QString ReadRegString(std::uint32_t root, const QString& path, const QString& name,
+                                    const QString& defaultText = {});
+
+// Stores `text` under `name` in the key `path`, making the key when it is missing. A failure goes unnoticed.
+void WriteRegString(std::uint32_t root, const QString& path, const QString& name, const QString& text);
+
+}  // namespace mdlRegistry

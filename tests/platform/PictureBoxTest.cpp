@@ -1,0 +1,95 @@
+#include "platform/PictureBox.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "platform/PictureSheet.h"
+
+namespace {
+
+// The pixels of `image` in `colour` that lie in the row through `y`, as a string: '#' for colour, '.' else.
+std::string Row(const QImage& image, int y, QRgb colour) {
+    std::string row;
+    for (int x = 0; x < image.width(); ++x) row += image.pixel(x, y) == colour ? '#' : '.';
+    return row;
+}
+
+TEST(PictureContents, OutlinesLieAboutTheirEdgesAtEveryScale) {
+    constexpr QRgb kPen = 0xFFFF0000;
+    struct Case {
+        const char* what;
+        int width;
+        qreal scale;
+        std::string across;
+    };
+    const Case cases[] = {
+        {"width 3 about (2, 2) to (8, 8)", 3, 1, ".###...###.."},
+        {"width 2 about the same edges", 2, 1, ".##....##..."},
+        {"twice as large", 3, 2, "..######......######...."},
+        {"one and a half: whole device pixels", 3, 1.5, "..#####...#####..."},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        PictureContents contents{{12, 12}, kWhite, {}, {}};
+        contents.drawings.emplace_back(DrawnBox{QRect(2, 2, 6, 6), c.width, kRed, DrawMode::CopyPen});
+        const QImage image = contents.Render(c.scale);
+        const std::string across = Row(image, qRound(5.4 * c.scale), kPen);
+        EXPECT_EQ(across, c.across);
+    }
+}
+
+TEST(PictureBox, KeepsDrawingsUntilPictureOrClear) {
+    QWidget window;
+    PictureBox box(&window, {"box", {0, 0, 960, 960}, {}}, 2);
+    const auto middle = [&box] { return box.Contents().Render(1).pixelColor(30, 30); };
+    box.DrawMode(DrawMode::MaskPen);
+    box.BackColor(0x0F0FFF);  // red 255, green 15, blue 15
+    box.DrawFilledBox({0, 0}, {60, 60}, 0x33FFF0);
+    EXPECT_EQ(middle(), QColor(0xF0, 0x0F, 0x03));
+    const Picture kept = box.Image();
+    box.Clear();
+    EXPECT_EQ(middle(), QColor(255, 15, 15));
+    EXPECT_EQ(kept.At(1).pixelColor(30, 30), QColor(0xF0, 0x0F, 0x03));
+    box.DrawFilledBox({0, 0}, {60, 60}, kBlack);
+    box.Picture({});
+    EXPECT_EQ(middle(), QColor(255, 15, 15));
+    // Inside a border of two pixels the drawing area is 60 x 60 and clips what is drawn.
+    EXPECT_EQ(box.Contents().Render(1.25).size(), QSize(75, 75));
+}
+
+// The grid of a sheet whose size does not divide evenly loses no pixel, and cells keep their aspect.
+TEST(PictureSheet, CutsAnySizeIntoFittedCells) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("sheet.png");
+    for (const QSize size : {QSize(3, 13), QSize(100, 200), QSize(541, 2339)}) {
+        QImage sheet(size, QImage::Format_RGB32);
+        for (int y = 0; y < size.height(); ++y)
+            for (int x = 0; x < size.width(); ++x)
+                sheet.setPixel(x, y, qRgb(x * 3 / size.width() * 100, y * 13 / size.height() * 15, 50));
+        sheet.save(path);
+        QString why;
+        const auto cut = PictureSheet::Load(path, why);
+        ASSERT_TRUE(cut) << why.toStdString();
+        for (int cell : {0, 1, 2, 3, 19, 38}) {
+            const QImage image = cut->Render(cell, 2);
+            EXPECT_EQ(image.size(), QSize(120, 120));
+            EXPECT_EQ(image.pixelColor(60, 60), QColor(cell % 3 * 100, cell / 3 * 15, 50)) << cell;
+        }
+        EXPECT_TRUE(cut->Render(39, 1).isNull() && cut->Render(-1, 1).isNull());
+    }
+}
+
+// The sentence names the file and what is wrong with it.
+TEST(PictureSheet, SaysWhyAFileIsNoSheet) {
+    QTemporaryDir folder;
+    QImage(200, 12, QImage::Format_RGB32).save(folder.filePath("stone.png"));
+    QImage(4001, 4001, QImage::Format_Mono).save(folder.filePath("wall.png"));
+    EXPECT_EQ(
+        WhyNotASheet(folder.filePath("stone.png")),
+        "\"stone.png\" is 200 x 12 pixels; a skin is 3 cells wide and 13 high, at least 3 x 13 pixels.");
+    EXPECT_TRUE(WhyNotASheet(folder.filePath("wall.png")).startsWith("\"wall.png\" is 4001 x 4001 pixels"));
+    EXPECT_EQ(WhyNotASheet(folder.filePath("none.png")), "\"none.png\" is not there.");
+}
+
+}  // namespace

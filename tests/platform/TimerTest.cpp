@@ -1,0 +1,46 @@
+#include "platform/Timer.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/VirtualTime.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(Timer, TicksByItsRules) {
+    struct Case {
+        const char* what;
+        std::function<void(Timer&, VirtualTime&)> run;
+        int ticks;
+    };
+    const Case cases[] = {
+        {"disabled: never", [](Timer&, VirtualTime& t) { t.Pass(1h); }, 0},
+        {"every interval",
+         [](Timer& a, VirtualTime& t) { a.Enabled(true), t.Pass(99ms), t.Pass(1ms), t.Pass(100ms); }, 2},
+        {"interval 0: never", [](Timer& a, VirtualTime& t) { a.Interval(0), a.Enabled(true), t.Pass(1h); },
+         0},
+        {"enabling again starts afresh",
+         [](Timer& a, VirtualTime& t) {
+             a.Enabled(true), t.Pass(60ms), a.Enabled(false), a.Enabled(true), t.Pass(60ms);
+         },
+         0},
+        {"enabling what is enabled changes nothing",
+         [](Timer& a, VirtualTime& t) { a.Enabled(true), t.Pass(60ms), a.Enabled(true), t.Pass(60ms); }, 1},
+        {"a new interval starts afresh",
+         [](Timer& a, VirtualTime& t) { a.Enabled(true), t.Pass(60ms), a.Interval(50), t.Pass(49ms); }, 0},
+        {"several missed: once, late",
+         [](Timer& a, VirtualTime& t) { a.Enabled(true), t.Wait(1s), t.Pass(0ms); }, 1},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        VirtualTime time;
+        int ticks = 0;
+        Timer timer(
+            time, [&ticks] { ++ticks; }, 100);
+        c.run(timer, time);
+        EXPECT_EQ(ticks, c.ticks);
+    }
+}
+
+}  // namespace

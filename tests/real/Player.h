@@ -1,0 +1,53 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <optional>
+
+#include "platform/PictureSheet.h"
+#include "tests/real/RealWindow.h"
+#include "tests/real/VirtualDisplay.h"
+
+// A player before the real window: starts the game on a display of its own, recognises cards by their
+// pictures and plays with keys and mouse. Knows of the game only what is to be seen.
+class Player {
+public:
+    // scale: the desktop's scale, 1 or 2.
+    explicit Player(int scale);
+    ~Player();
+
+    // A cell as it is seen: a kind 0..38, nothing, or something that is neither (mid-change).
+    static constexpr int kNothing = -1, kUnclear = -2;
+    [[nodiscard]] int CardAt(int cell) const;
+    [[nodiscard]] bool IsFramed(int cell) const;  // with the red frame of the active card
+    [[nodiscard]] bool IsBlack(int cell) const;
+    [[nodiscard]] bool IsCovered() const;  // every cell shows the cover picture, none is framed
+    [[nodiscard]] int NextCard() const;    // in the preview
+
+    // Waits until the new card lies framed in the start cell and nothing is black, or the board is covered.
+    bool AwaitTurn() const;
+    // Waits until what is shown differs from `before`.
+    bool AwaitChange(const QImage& before) const;
+
+    void MoveByKeys(int to) const;
+    // False when the mouse is in the cell already: the game takes no notice then.
+    bool MoveByMouse(int to);
+    void Click(QPoint at, unsigned button = 1) const { window_->Click(at * scale_, button); }
+    void ClickCell(int cell, unsigned button = 1) const { Click(Cell(cell).center() / scale_, button); }
+    // Saves what is shown as <TESSELOR_SHOTS>/<name>@<scale>.png, when that folder is named.
+    void Photograph(const char* name) const;
+
+    [[nodiscard]] RealWindow& Window() const { return *window_; }
+    [[nodiscard]] QRect Cell(int cell) const;  // the drawing area, in device pixels
+    [[nodiscard]] int Scale() const { return scale_; }
+    // The exit status of the game, which is waited for.
+    int Leave();
+
+private:
+    int scale_;
+    VirtualDisplay display_;
+    QProcess game_;
+    std::unique_ptr<RealWindow> window_;
+    std::array<QImage, kSheetCells> cards_;
+    int mouseCell_ = 0;  // where the game takes the mouse to be at first
+};

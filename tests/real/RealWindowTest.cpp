@@ -1,0 +1,178 @@
+// Whole games in the real window, on a display of the test's own.
+
+#include <gtest/gtest.h>
+
+#include <QElapsedTimer>
+
+#include "model/CardInfo.h"
+#include "model/Lines.h"
+#include "tests/real/Player.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr QPoint kPlay(366, 262), kMenu(366, 216), kHelp(366, 125), kMaster(115, 207), kBackground(200, 405);
+constexpr int kEraser = 36;
+
+CardInfo Card(int kind) {
+    if (kind < 0 || kind >= kEraser) return {};
+    const CardKinds kinds = MakeCardKinds();
+    return kinds[static_cast<std::size_t>(kind / 3)][static_cast<std::size_t>(kind % 3)];
+}
+
+using Board = std::array<int, 16>;
+
+Board LookAtBoard(const Player& player) {
+    Board board{};
+    for (int cell = 0; cell < 16; ++cell) board[static_cast<std::size_t>(cell)] = player.CardAt(cell);
+    return board;
+}
+
+// How many elements a lock of `kind` in `cell` would complete.
+int Shared(const Board& board, int kind, int cell) {
+    int total = 0;
+    for (const LineCells& cells : LinesThrough(static_cast<std::int16_t>(cell))) {
+        LineCards line;
+        for (std::size_t i = 0; i < cells.size(); ++i)
+            line[i] = Card(cells[i] == cell ? kind : board[static_cast<std::size_t>(cells[i])]);
+        total += SharedElements(line);
+    }
+    return total;
+}
+
+// A player who wants the cards to end: clears lines as cheaply as possible, erases what stands in the way.
+int CheapCell(const Board& board, int kind) {
+    int best = -1, bestWorth = -1000;
+    for (int cell = 0; cell < 16; ++cell) {
+        const bool taken = board[static_cast<std::size_t>(cell)] >= 0;
+        if (kind >= kEraser ? !taken && best >= 0 : taken) continue;
+        const int shared = kind >= kEraser ? 0 : Shared(board, kind, cell);
+        int worth = shared == 1 ? 10 : -shared;
+        for (const LineCells& cells : LinesThrough(static_cast<std::int16_t>(cell))) {
+            bool sameColour = kind < kEraser;
+            int neighbours = 0;
+            for (const std::int16_t other : cells) {
+                const int card = board[static_cast<std::size_t>(other)];
+                if (other == cell || card < 0) continue;
+                ++neighbours;
+                sameColour = sameColour && card % 3 == kind % 3;
+            }
+            worth += sameColour ? neighbours : -neighbours;
+        }
+        if (worth > bestWorth) best = cell, bestWorth = worth;
+    }
+    return best;
+}
+
+class RealWindow_ : public testing::TestWithParam<int> {
+protected:
+    void SetUp() override { ASSERT_TRUE(player.Window().Found()); }
+
+    void ClickAndSee(QPoint at) {
+        const QImage before = player.Window().Look();
+        player.Click(at);
+        ASSERT_TRUE(player.AwaitChange(before));
+    }
+    void StartGame() {
+        ClickAndSee(kPlay);
+        ASSERT_TRUE(player.AwaitTurn());
+    }
+    // Locks the active card by the space key or a click, and waits for the next turn.
+    void LockAt(int cell, bool byMouse) {
+        if (!byMouse || !player.MoveByMouse(cell)) player.MoveByKeys(cell);
+        const QImage before = player.Window().Look();
+        if (byMouse)
+            player.ClickCell(cell);
+        else
+            player.Window().Key("space");
+        ASSERT_TRUE(player.AwaitChange(before));
+        ASSERT_TRUE(player.AwaitTurn());
+    }
+
+    Player player{GetParam()};
+};
+
+TEST_P(RealWindow_, IsPlayedByKeysAndMouseThroughPauseAndHelp) {
+    player.Photograph("help");
+    StartGame();
+    EXPECT_EQ(player.Window().OnScreen().size(), QSize(399, 411) * GetParam());
+    player.MoveByKeys(5);
+    player.Photograph("first-card");
+    Board board = LookAtBoard(player);
+    const int first = board[5];
+    EXPECT_EQ(std::count(board.begin(), board.end(), Player::kNothing), 15);
+    LockAt(5, false);
+    EXPECT_EQ(player.CardAt(5), first >= kEraser ? Player::kNothing : first);
+    LockAt(10, true);
+    LockAt(3, true);
+    board = LookAtBoard(player);
+    player.Photograph("playing");
+
+    player.ClickCell(3, 3);  // the mouse rests there already
+    ASSERT_TRUE(player.Window().Await([&] { return player.IsCovered(); }));
+    player.Photograph("paused");
+    player.Window().Key("p");
+    ASSERT_TRUE(player.Window().Await([&] { return LookAtBoard(player) == board; }));
+
+    ClickAndSee(kHelp);
+    StartGame();
+    EXPECT_EQ(player.Leave(), 0);
+}
+
+TEST_P(RealWindow_, CoversCellByCellBeforeThePlayersEyes) {
+    StartGame();
+    int blackSeen = 0, covered = 0;
+    player.Window().Key("p");
+    // Looks at every change of the screen: each cell is black once, on its own, before it is covered.
+    player.Window().Await([&] {
+        for (int cell = 0; cell < 16; ++cell)
+            if (player.IsBlack(cell)) blackSeen |= 1 << cell;
+        if (blackSeen == 0x3FF) player.Photograph("covering");
+        return player.IsCovered() && ++covered;
+    });
+    EXPECT_GE(std::popcount(static_cast<unsigned>(blackSeen)), 14);  // on a busy machine a look may come late
+    EXPECT_EQ(covered, 1);
+}
+
+TEST_P(RealWindow_, AtMasterLevelTheTimerLocksAndFillsTheBoardToTheEnd) {
+    ClickAndSee(kMenu);
+    ClickAndSee(kMaster);
+    player.Photograph("levels");
+    StartGame();
+    LockAt(6, false);
+    player.Photograph("master");
+    const QImage before = player.Window().Look();
+    ASSERT_TRUE(player.AwaitChange(before));
+    if (GetParam() != 1) return;
+    // Hurries the end by locking at random, as fast as turns come.
+    for (int turn = 0; turn < 3000 && !player.IsCovered(); ++turn) {
+        const Board board = LookAtBoard(player);
+        int cell = 0;
+        while (cell < 15 && board[static_cast<std::size_t>(cell)] != Player::kNothing) ++cell;
+        player.MoveByKeys(cell);
+        player.Window().Key("space");
+        player.AwaitTurn();
+    }
+    EXPECT_TRUE(player.IsCovered());
+    player.Photograph("full-board");
+}
+
+TEST_P(RealWindow_, ACheapPlayerUsesUpTheCards) {
+    if (GetParam() != 1) return;
+    StartGame();
+    for (int turns = 0; turns < 3000 && !player.IsCovered(); ++turns) {
+        Board board = LookAtBoard(player);
+        const int kind = board[12];
+        ASSERT_GE(kind, 0);
+        player.MoveByKeys(8);  // the active card hides what lies under it
+        board[12] = player.CardAt(12);
+        LockAt(CheapCell(board, kind), turns % 2 == 0);
+    }
+    EXPECT_TRUE(player.IsCovered());
+    player.Photograph("no-cards");
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, RealWindow_, testing::Values(1, 2));
+
+}  // namespace

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <QPainter>
+#include <QTemporaryDir>
+#include <deque>
+#include <random>
+
+#include "screen/frmGame.h"
+#include "tests/support/VirtualTime.h"
+
+// Random numbers as a test wants them: those it names first, then a fixed sequence.
+class ScriptedRandom final : public RandomSource {
+public:
+    void Reseed() override {}
+    std::int16_t Below(std::int16_t count) override {
+        if (script.empty())
+            return std::uniform_int_distribution<std::int16_t>(0, std::int16_t(count - 1))(rest);
+        const std::int16_t value = script.front();
+        script.pop_front();
+        return value;
+    }
+
+    std::deque<std::int16_t> script;
+    std::mt19937 rest{20261124};
+};
+
+// Message boxes that answer at once and remember what they said.
+class AnsweredDialogs final : public Dialogs {
+public:
+    void Tell(QWidget*, const QString& sentence) override { told.append(sentence); }
+    bool Ask(QWidget*, const QString& question) override {
+        told.append(question);
+        return answer;
+    }
+
+    QStringList told;
+    bool answer = false;
+};
+
+// A skin whose cells are all of different colours, as a PNG file.
+inline void WriteSkin(const QString& path, QSize cell = {20, 20}) {
+    QImage sheet(cell.width() * kSheetColumns, cell.height() * kSheetRows, QImage::Format_RGB32);
+    QPainter painter(&sheet);
+    for (int k = 0; k < kSheetCells; ++k)
+        painter.fillRect(QRect(QPoint(k % 3 * cell.width(), k / 3 * cell.height()), cell),
+                         QColor(255 - k, 200 + k, 240 - 2 * k));
+    painter.end();
+    sheet.save(path, "PNG");
+}
+
+// The whole game window on virtual time, with a program folder of its own that holds the skin "test.png".
+class GameWindow {
+public:
+    explicit GameWindow(bool withSkin = true) {
+        QDir(folder.path()).mkdir(QStringLiteral("Art"));
+        if (withSkin) WriteSkin(folder.filePath(QStringLiteral("Art/test.png")));
+        Open();
+    }
+
+    void Open() {
+        form.reset();
+        form = std::make_unique<frmGame>(
+            World{time, random, dialogs, ProgramFolder(folder.path()), [this] { ended = true; }});
+    }
+    void Play(int level = 0) {
+        form->lblClass_Click(static_cast<std::int16_t>(level));
+        form->imgButton_Click(0);
+    }
+    // Plays with a first, a second and further kinds given; what is drawn after them is arbitrary.
+    void PlayKinds(std::initializer_list<std::int16_t> kinds, int level = 0) {
+        random.script.assign(kinds);
+        if (random.script.size() > 1)
+            std::swap(random.script[0], random.script[1]);  // the next card is drawn first
+        Play(level);
+    }
+    void Key(int code) { form->Form_KeyDown(static_cast<std::int16_t>(code), 0); }
+    void Lock() { Key(kKeyLock); }
+    void MoveTo(int cell) {
+        form->HoverCell = -1;
+        form->picMat_MouseMove(static_cast<std::int16_t>(cell), 0, 0, 0, 0);
+    }
+    void LockAt(int cell) {
+        if (Model().PosCurrentCard() != cell) MoveTo(cell);
+        Lock();
+    }
+    void RightClick() { form->picMat_MouseDown(0, 2, 0, 0, 0); }
+    [[nodiscard]] clsCard& Model() { return form->Game(); }
+    [[nodiscard]] Picture Card(int kind) { return form->PicClip1.Cell(kind); }
+    [[nodiscard]] const PictureBox& Cell(int cell) { return form->picMat[std::size_t(cell)]; }
+
+    QTemporaryDir folder;
+    VirtualTime time;
+    ScriptedRandom random;
+    AnsweredDialogs dialogs;
+    bool ended = false;
+    std::unique_ptr<frmGame> form;
+};
