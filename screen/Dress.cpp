@@ -93,7 +93,7 @@ void frmGame::DressSkinScreen() {
 
 void frmGame::DressHelpScreen() {
     using Look::Text;
-    Dress(lblHelpText1, Text::Small, Look::kLevel, Qt::AlignLeft | Qt::AlignTop);
+    Dress(lblHelpText1, Text::Fine, Look::kLevel, Qt::AlignLeft | Qt::AlignTop);
     lblHelpText1.setWordWrap(true);
     imgMouse[0].Picture(WindowArt(QStringLiteral("mouse-move")));
     imgMouse[1].Picture(WindowArt(QStringLiteral("mouse-left")));

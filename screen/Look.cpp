@@ -16,6 +16,8 @@ struct Size {
 
 constexpr Size SizeOf(Text text) {
     switch (text) {
+        case Text::Fine:
+            return {10, QFont::Normal};
         case Text::Small:
             return {11, QFont::Normal};
         case Text::Normal:

@@ -2,7 +2,7 @@
 """Composes a skin's pieces into its picture set, 3 columns by 13 rows of cells.
 
 usage: make_skin.py SKIN.svg OUT.png                       the whole set, 180 pixels a cell
-       make_skin.py SKIN.svg OUT.svg --cell K --size W H   the drawing of cell K alone, W x H
+       make_skin.py SKIN.svg OUT.svg --cell K --size W H SIDE   cell K alone, SIDE wide in a picture of W x H
 
 A skin's drawing holds its palette as TOML in <metadata>: three [[colour]] tables. The drawing is written
 into the sheet once per colour, with that table's $placeholders filled and $c numbering the colour, so the
@@ -53,13 +53,15 @@ def card(kind):
 
 
 def drawing(source, cells, columns, size=None):
-    """An SVG of the given cells in rows of `columns`, each clipped to its own square; `size` stretches the whole."""
+    """An SVG of the given cells in rows of `columns`, each clipped to its own square. A `size` of (width, height,
+    side) makes the picture that large, with its cells drawn `side` wide in the middle of its upper edge."""
     placed = (f'<svg x="{i % columns * CELL}" y="{i // columns * CELL}" width="{CELL}" height="{CELL}">{card(k)}</svg>'
               for i, k in enumerate(cells))
     width, height = columns * CELL, -(-len(cells) // columns) * CELL
-    shown = size or (width, height)
-    return (f'<svg xmlns="http://www.w3.org/2000/svg" width="{shown[0]}" height="{shown[1]}" '
-            f'viewBox="0 0 {width} {height}" preserveAspectRatio="none">' + pieces(source) + "".join(placed) + "</svg>")
+    shown_width, shown_height, side = size or (width, height, CELL)
+    unit = CELL / side
+    return (f'<svg xmlns="http://www.w3.org/2000/svg" width="{shown_width}" height="{shown_height}" viewBox="'
+            f'{(width - shown_width * unit) / 2} 0 {shown_width * unit} {shown_height * unit}">' + pieces(source) + "".join(placed) + "</svg>")
 
 
 def main():
@@ -67,7 +69,7 @@ def main():
     parser.add_argument("skin", type=pathlib.Path)
     parser.add_argument("out", type=pathlib.Path)
     parser.add_argument("--cell", type=int)
-    parser.add_argument("--size", type=int, nargs=2)
+    parser.add_argument("--size", type=int, nargs=3)
     given = parser.parse_args()
     source = given.skin.read_text()
     if given.cell is not None:
