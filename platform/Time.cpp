@@ -1,22 +1,26 @@
 #include "platform/Time.h"
 
+#include <QBasicTimer>
 #include <QCoreApplication>
+#include <QObject>
 #include <QThread>
-#include <QTimer>
 
 namespace {
 
-class RealAlarm final : public Alarm {
+class RealAlarm final : public QObject, public Alarm {
 public:
-    explicit RealAlarm(std::function<void()> due) {
-        timer_.setTimerType(Qt::PreciseTimer);
-        timer_.callOnTimeout([due = std::move(due)] { due(); });
+    explicit RealAlarm(std::function<void()> due) : due_(std::move(due)) {}
+    void Start(std::chrono::milliseconds interval) override {
+        timer_.start(static_cast<int>(interval.count()), Qt::PreciseTimer, this);
     }
-    void Start(std::chrono::milliseconds interval) override { timer_.start(interval); }
     void Stop() override { timer_.stop(); }
 
+protected:
+    void timerEvent(QTimerEvent* /*event*/) override { due_(); }
+
 private:
-    QTimer timer_;
+    std::function<void()> due_;
+    QBasicTimer timer_;
 };
 
 }  // namespace

@@ -152,7 +152,7 @@ void frmGame::closeEvent(QCloseEvent* event) {
     event->setAccepted(cancel == 0);
 }
 
-// The first event after the first paint: the window is on the screen, now the skins may take their time.
-void frmGame::showEvent(QShowEvent* /*event*/) {
+// The window has its first picture on the screen when this returns: now the skins may take their time.
+void frmGame::paintEvent(QPaintEvent* /*event*/) {
     if (!skinsFinished_) QTimer::singleShot(0, this, [this] { FinishSkinSlots(); });
 }

@@ -9,12 +9,15 @@ void WindowShape::Apply(QWidget& window) {
     window.setFixedSize(kRegion.size());
 }
 
-void WindowMove::Press(QWidget& window, QPoint global, bool leftButton) {
+void WindowMove::Press(const QWidget& window, QPoint global, bool leftButton) {
     grip_ = global - window.pos();
-    QWindow* handle = window.windowHandle();
-    following_ = !(leftButton && handle && handle->startSystemMove());
+    state_ = leftButton ? State::PressedLeft : State::Pressed;
 }
 
-void WindowMove::Move(QWidget& window, QPoint global) const {
-    if (following_) window.move(global - grip_);
+void WindowMove::Move(QWidget& window, QPoint global) {
+    if (state_ == State::Idle) return;
+    QWindow* handle = window.windowHandle();
+    if (state_ == State::PressedLeft && handle && handle->startSystemMove()) return Release();
+    state_ = State::Following;
+    window.move(global - grip_);
 }

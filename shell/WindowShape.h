@@ -18,15 +18,18 @@ void Apply(QWidget& window);
 }  // namespace WindowShape
 
 // Moves a window with the mouse, from a press on its background until the release. The window system does it
-// where it can; elsewhere, and for the buttons it does not move with, the window follows the mouse.
+// where it can; elsewhere, and for the buttons it does not move with, the window follows the mouse. The move
+// begins with the first motion: a mere click must not leave the window hanging on the mouse.
 class WindowMove {
 public:
     // A press at `global`, in screen coordinates. `leftButton`: the button the window system moves with.
-    void Press(QWidget& window, QPoint global, bool leftButton);
-    void Move(QWidget& window, QPoint global) const;
-    void Release() { following_ = false; }
+    void Press(const QWidget& window, QPoint global, bool leftButton);
+    // The mouse moved with a button held.
+    void Move(QWidget& window, QPoint global);
+    void Release() { state_ = State::Idle; }
 
 private:
-    bool following_ = false;
+    enum class State { Idle, Pressed, PressedLeft, Following };
+    State state_ = State::Idle;
     QPoint grip_;  // where the window is held, from its corner
 };

@@ -29,13 +29,21 @@ RealWindow::RealWindow(const QString& display, const QString& title)
     XSelectInput(display_, DefaultRootWindow(display_), SubstructureNotifyMask);
     WatchDamage();
     Await([&] { return (window_ = Find(DefaultRootWindow(display_), title)) != 0; });
-    if (window_ == 0) return;
+    if (window_ != 0) place_ = Place();
+}
+
+QRect RealWindow::Place() const {
     XWindowAttributes attributes;
     XGetWindowAttributes(display_, window_, &attributes);
     int x = 0, y = 0;
     ::Window child = 0;
     XTranslateCoordinates(display_, window_, attributes.root, 0, 0, &x, &y, &child);
-    place_ = QRect(x, y, attributes.width, attributes.height);
+    return {x, y, attributes.width, attributes.height};
+}
+
+void RealWindow::MoveTo(QPoint corner) {
+    XMoveWindow(display_, window_, corner.x(), corner.y());
+    Await([&] { return (place_ = Place()).topLeft() == corner; }, std::chrono::seconds(3));
 }
 
 RealWindow::~RealWindow() {
@@ -96,6 +104,11 @@ QImage RealWindow::Look(const QRect& area) const {
     QImage image = view.convertToFormat(QImage::Format_ARGB32).convertToFormat(QImage::Format_RGB32);
     XDestroyImage(pixels);
     return image;
+}
+
+void RealWindow::Focus() const {
+    XSetInputFocus(display_, window_, RevertToParent, CurrentTime);
+    XSync(display_, False);
 }
 
 void RealWindow::Key(const char* keysym) const {

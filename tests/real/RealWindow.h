@@ -19,6 +19,8 @@ public:
 
     [[nodiscard]] bool Found() const { return window_ != 0; }
     [[nodiscard]] QRect OnScreen() const { return place_; }
+    // Moves the window and waits until it is there: two windows that cover one another cannot be watched.
+    void MoveTo(QPoint corner);
 
     // What the window shows at `area`.
     [[nodiscard]] QImage Look(const QRect& area) const;
@@ -28,6 +30,8 @@ public:
     bool Await(const std::function<bool()>& seen,
                std::chrono::milliseconds limit = std::chrono::seconds(20)) const;
 
+    // Gives the window the keyboard at once; a click leaves it to the window manager when.
+    void Focus() const;
     void Key(const char* keysym) const;  // X's name of the key: "space", "Left", "p"
     void MoveMouse(QPoint at) const;
     void Click(QPoint at, unsigned button = 1) const;
@@ -35,6 +39,7 @@ public:
     void Release(unsigned button) const;
 
 private:
+    [[nodiscard]] QRect Place() const;
     [[nodiscard]] unsigned long Find(unsigned long parent, const QString& title) const;
     void WatchDamage();
     [[nodiscard]] bool AwaitDamage(std::chrono::milliseconds limit) const;

@@ -1,6 +1,32 @@
 #include "tests/real/VirtualDisplay.h"
 
+#include <X11/Xatom.h>
+#include <X11/Xlib.h>
+
 namespace {
+
+// Waits until a window manager has announced itself on the display `name`: a window mapped while one is only
+// just starting may never be shown.
+void AwaitWindowManager(const QString& name) {
+    Display* display = XOpenDisplay(name.toLatin1().constData());
+    if (!display) return;
+    const ::Window root = DefaultRootWindow(display);
+    const Atom announced = XInternAtom(display, "_NET_SUPPORTING_WM_CHECK", False);
+    XSelectInput(display, root, PropertyChangeMask);
+    const auto isThere = [&] {
+        Atom type = 0;
+        int format = 0;
+        unsigned long count = 0, left = 0;
+        unsigned char* value = nullptr;
+        XGetWindowProperty(display, root, announced, 0, 1, False, XA_WINDOW, &type, &format, &count, &left,
+                           &value);
+        if (value) XFree(value);
+        return count == 1;
+    };
+    XEvent event;
+    while (!isThere()) XNextEvent(display, &event);
+    XCloseDisplay(display);
+}
 
 void End(QProcess& process) {
     process.terminate();
@@ -17,7 +43,7 @@ VirtualDisplay::VirtualDisplay() {
     name_ = ':' + QString::fromLatin1(server_.readLine()).trimmed();
     windowManager_.setProcessEnvironment(Environment());
     windowManager_.start("openbox", {"--sm-disable"});
-    windowManager_.waitForStarted();
+    if (windowManager_.waitForStarted()) AwaitWindowManager(name_);
 }
 
 VirtualDisplay::~VirtualDisplay() {
