@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "platform/PictureSheet.h"
-#include "tests/real/RealWindow.h"
-#include "tests/real/VirtualDisplay.h"
+#include "tools/display/RealWindow.h"
+#include "tools/display/VirtualDisplay.h"
 
 // A player before the real window: starts the game on a display of its own, recognises cards by their
 // pictures and plays with keys and mouse. Knows of the game only what is to be seen.

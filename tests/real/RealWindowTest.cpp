@@ -12,7 +12,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr QPoint kPlay(366, 262), kMenu(366, 216), kHelp(366, 125), kMaster(115, 207), kBackground(200, 405);
+constexpr QPoint kPlay(366, 262), kMenu(366, 216), kHelp(366, 125), kMaster(115, 207), kBackground(345, 80);
 constexpr int kEraser = 36;
 
 CardInfo Card(int kind) {
@@ -133,6 +133,21 @@ TEST_P(RealWindow_, CoversCellByCellBeforeThePlayersEyes) {
     });
     EXPECT_GE(std::popcount(static_cast<unsigned>(blackSeen)), 14);  // on a busy machine a look may come late
     EXPECT_EQ(covered, 1);
+}
+
+TEST_P(RealWindow_, IsMovedByItsBackgroundWithAnyButton) {
+    if (GetParam() != 1) return;
+    RealWindow& window = player.Window();
+    for (const unsigned button : {1u, 2u, 3u}) {
+        const QRect before = window.Place();
+        window.MoveMouse(kBackground);
+        window.Press(button);
+        for (const QPoint to : {QPoint(10, 5), QPoint(20, 10), QPoint(30, 20)})
+            window.MoveMouse(kBackground + to);
+        EXPECT_TRUE(window.Await([&] { return window.Place() != before; })) << "button " << button;
+        window.Release(button);
+        window.MoveTo(before.topLeft());
+    }
 }
 
 TEST_P(RealWindow_, AtMasterLevelTheTimerLocksAndFillsTheBoardToTheEnd) {

@@ -13,8 +13,8 @@
 #include <ctime>
 #include <memory>
 
-#include "tests/real/RealWindow.h"
-#include "tests/real/VirtualDisplay.h"
+#include "tools/display/RealWindow.h"
+#include "tools/display/VirtualDisplay.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "tests/real/VirtualDisplay.h"
+#include "tools/display/VirtualDisplay.h"
 
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>

@@ -19,6 +19,8 @@ public:
 
     [[nodiscard]] bool Found() const { return window_ != 0; }
     [[nodiscard]] QRect OnScreen() const { return place_; }
+    // Where the window is now, wherever it was before.
+    [[nodiscard]] QRect Place() const;
     // Moves the window and waits until it is there: two windows that cover one another cannot be watched.
     void MoveTo(QPoint corner);
 
@@ -39,7 +41,6 @@ public:
     void Release(unsigned button) const;
 
 private:
-    [[nodiscard]] QRect Place() const;
     [[nodiscard]] unsigned long Find(unsigned long parent, const QString& title) const;
     void WatchDamage();
     [[nodiscard]] bool AwaitDamage(std::chrono::milliseconds limit) const;

@@ -1,4 +1,4 @@
-#include "tests/real/RealWindow.h"
+#include "tools/display/RealWindow.h"
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
