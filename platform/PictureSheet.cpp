@@ -88,7 +88,8 @@ std::shared_ptr<PictureSheet> PictureSheet::Load(const QString& path, QString& w
         return nullptr;
     }
     std::shared_ptr<PictureSheet> loaded(new PictureSheet(bytes));
-    loaded->Cut(sheet, qGuiApp ? qGuiApp->devicePixelRatio() : 1.0);
+    const auto* windows = qobject_cast<const QGuiApplication*>(QCoreApplication::instance());
+    loaded->Cut(sheet, windows ? windows->devicePixelRatio() : 1.0);
     loaded->first_ = sheet.copy(CellRect(sheet.size(), 0));
     return loaded;
 }
