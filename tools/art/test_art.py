@@ -2,6 +2,7 @@
 """The art makers where an error would not be seen at a glance: colour distances, the order of cells, sizes."""
 import itertools
 import math
+import pathlib
 import re
 import unittest
 
@@ -11,6 +12,7 @@ import make_picture
 import make_skin
 import svg
 
+SKINS = pathlib.Path(__file__).resolve().parents[2] / "assets" / "skins"
 SKIN = "".join(['<svg><metadata>', '[[colour]]\nmain="#f00"\n' * 3, '</metadata><path fill="$main" id="p-$c"/></svg>'])
 
 
@@ -67,6 +69,14 @@ class Skins(unittest.TestCase):
         corners = [tuple(map(int, c)) for c in re.findall(r'<svg x="(\d+)" y="(\d+)"', sheet)]
         self.assertEqual((corners[0], corners[4], corners[38]), ((0, 0), (60, 60), (120, 720)))
         self.assertEqual(svg.size(sheet), (180, 780))
+
+    def test_what_a_drawing_refers_to_is_there_once(self):  # the renderer is silent about what it cannot find
+        for skin in SKINS.glob("*.svg"):
+            with self.subTest(skin.stem):
+                sheet = make_skin.drawing(skin.read_text(), range(39), 3)
+                there = re.findall(r'\bid="([^"]+)"', sheet)
+                self.assertEqual(len(there), len(set(there)))
+                self.assertEqual(set(re.findall(r'(?:href="|url\()#([^")]+)', sheet)) - set(there), set())
 
     def test_symbols_of_a_card_do_not_touch(self):
         for places in make_skin.PLACES.values():
