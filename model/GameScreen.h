@@ -3,6 +3,13 @@
 #include <cstdint>
 #include <string_view>
 
+// Flags of the platform's sound call: do not wait for the sound's end, play nothing instead of a missing
+// sound, do not wait for a busy device, the source is a file's name.
+inline constexpr std::uint32_t SND_ASYNC = 0x1;
+inline constexpr std::uint32_t SND_NODEFAULT = 0x2;
+inline constexpr std::uint32_t SND_NOWAIT = 0x2000;
+inline constexpr std::uint32_t SND_FILENAME = 0x20000;
+
 // What the rules ask of whoever shows and sounds the game. Cells are 0..15: row * 4 + column, row 0 at the
 // top. Kinds are 0..38. Every call returns when it is done; none calls the model back except where it says
 // so.

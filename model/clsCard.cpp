@@ -19,12 +19,6 @@ constexpr std::int16_t kEraserSound = 101;
 constexpr std::int16_t kMoveSound = 104;
 constexpr std::int16_t kOccupiedSound = 105;
 
-// Flags of the platform's sound call.
-constexpr std::uint32_t SND_ASYNC = 0x1;
-constexpr std::uint32_t SND_NODEFAULT = 0x2;
-constexpr std::uint32_t SND_NOWAIT = 0x2000;
-constexpr std::uint32_t SND_FILENAME = 0x20000;
-
 struct Step {
     std::int32_t key;
     int rows;

@@ -10,6 +10,7 @@ class CommandButton : public Control<QPushButton> {
 public:
     CommandButton(QWidget* parent, const Placement& placement) : Control<QPushButton>(parent, placement) {
         setText(placement.caption);
+        setAutoDefault(true);  // pressed by Enter as by the space bar
     }
 };
 
@@ -18,4 +19,11 @@ public:
     TextBox(QWidget* parent, const Placement& placement) : Control<QLineEdit>(parent, placement) {}
 
     [[nodiscard]] QString Text() const { return text(); }
+
+protected:
+    // The toolkit's field passes on what it has no use for, such as Escape and Up: typing is no playing.
+    void keyPressEvent(QKeyEvent* event) override {
+        QLineEdit::keyPressEvent(event);
+        event->accept();
+    }
 };

@@ -1,6 +1,9 @@
 #include "platform/PictureBox.h"
 
+#include <QDropEvent>
+#include <QMimeData>
 #include <QPainter>
+#include <QUrl>
 
 #include "platform/DevicePixels.h"
 
@@ -44,6 +47,12 @@ void Draw(QPainter& painter, const PaintedPicture& painted, qreal scale) {
     QImage image = painted.picture.At(scale);
     image.setDevicePixelRatio(1);
     painter.drawImage(QPointF(painted.at * scale).toPoint(), image);
+}
+
+// The first of the files dragged, when it is one of this machine.
+QString FirstFile(const QMimeData* data) {
+    const QList<QUrl> urls = data->urls();
+    return !urls.isEmpty() && urls.first().isLocalFile() ? urls.first().toLocalFile() : QString();
 }
 
 class ContentsSource final : public PictureSource {
@@ -104,6 +113,24 @@ void PictureBox::Clear() {
     if (contents_.drawings.empty()) return;
     contents_.drawings.clear();
     update();
+}
+
+void PictureBox::OnFileDrop(std::function<void(const QString& path)> handler) {
+    onFileDrop_ = std::move(handler);
+    setAcceptDrops(true);
+}
+
+void PictureBox::dragEnterEvent(QDragEnterEvent* event) {
+    if (!FirstFile(event->mimeData()).isEmpty()) event->acceptProposedAction();
+}
+
+void PictureBox::dropEvent(QDropEvent* event) {
+    const QString path = FirstFile(event->mimeData());
+    if (path.isEmpty()) return;
+    // The game takes the file away itself, and only when it has it whole: to the other side this is a copy.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    onFileDrop_(path);
 }
 
 ::Picture PictureBox::Image() const {

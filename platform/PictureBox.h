@@ -57,6 +57,10 @@ public:
     void PaintPicture(const ::Picture& picture, QPoint at);
     void Clear();  // removes the drawings; the picture stays
 
+    // Takes files dropped on it: `handler` gets the path of the first one. Anything but a file of this
+    // machine is refused while it still hovers.
+    void OnFileDrop(std::function<void(const QString& path)> handler);
+
     // All that is shown now, drawings included, as a picture of its own.
     [[nodiscard]] ::Picture Image() const;
     [[nodiscard]] const PictureContents& Contents() const { return contents_; }
@@ -66,11 +70,14 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void Add(const DrawnBox& box);
     [[nodiscard]] QRect Inside() const { return rect().adjusted(border_, border_, -border_, -border_); }
 
+    std::function<void(const QString& path)> onFileDrop_;
     PictureContents contents_;
     ::DrawMode drawMode_ = DrawMode::CopyPen;
     int drawWidth_ = 1;

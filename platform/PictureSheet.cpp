@@ -14,32 +14,32 @@ QString Sentence(const QString& path, const QString& what) {
 
 QString WhyNotThisSize(const QSize& size) {
     if (!size.isValid()) return QStringLiteral("is not a picture that can be read here.");
-    if (size.width() < kSheetColumns || size.height() < kSheetRows)
-        return QStringLiteral(
-                   "is %1 x %2 pixels; a skin is 3 cells wide and 13 high, at least 3 x 13 pixels.")
-            .arg(size.width())
-            .arg(size.height());
+    const QString pixels = QStringLiteral("is %1 x %2 pixels; ").arg(size.width()).arg(size.height());
+    if (size.isEmpty() || size.width() % kSheetColumns != 0 || size.height() % kSheetRows != 0)
+        return pixels + QStringLiteral(
+                            "a skin is 3 cells wide and 13 high, at least 3 x 13 pixels: its width "
+                            "divides by 3 and its height by 13.");
     if (qint64{size.width()} * size.height() > kMostSheetPixels)
-        return QStringLiteral("is %1 x %2 pixels; a skin has at most 16 million pixels.")
-            .arg(size.width())
-            .arg(size.height());
+        return pixels + QStringLiteral("a skin has at most 16 million pixels.");
     return {};
+}
+
+// The toolkit takes a JPEG that ends too early for a whole one; the format's own end mark tells.
+bool IsCutShort(const QByteArray& format, const QByteArray& bytes) {
+    return format == "jpeg" && !bytes.last(qMin<qsizetype>(bytes.size(), 64)).contains("\xFF\xD9");
 }
 
 QImage Decode(const QByteArray& bytes) {
     QBuffer buffer;
     buffer.setData(bytes);
     QImageReader reader(&buffer);
-    return WhyNotThisSize(reader.size()).isEmpty() ? reader.read() : QImage();
+    if (!WhyNotThisSize(reader.size()).isEmpty() || IsCutShort(reader.format(), bytes)) return {};
+    return reader.read();
 }
 
-// Cell `cell` of a sheet whose size need not divide evenly: edges are rounded, so no pixel row is lost.
 QRect CellRect(const QSize& sheet, int cell) {
-    const int row = cell / kSheetColumns, column = cell % kSheetColumns;
-    const int left = sheet.width() * column / kSheetColumns, top = sheet.height() * row / kSheetRows;
-    const int right = sheet.width() * (column + 1) / kSheetColumns;
-    const int bottom = sheet.height() * (row + 1) / kSheetRows;
-    return {left, top, right - left, bottom - top};
+    const QSize size(sheet.width() / kSheetColumns, sheet.height() / kSheetRows);
+    return {QPoint(cell % kSheetColumns * size.width(), cell / kSheetColumns * size.height()), size};
 }
 
 QImage Fit(const QImage& cell, qreal scale) {
@@ -81,7 +81,11 @@ std::shared_ptr<PictureSheet> PictureSheet::Load(const QString& path, QString& w
     why = WhyNotASheet(path);
     if (!why.isEmpty()) return nullptr;
     QFile file(path);
-    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.read(kMostSheetBytes) : QByteArray();
+    if (!file.open(QIODevice::ReadOnly)) {
+        why = Sentence(path, QStringLiteral("cannot be opened."));
+        return nullptr;
+    }
+    const QByteArray bytes = file.read(kMostSheetBytes);
     const QImage sheet = Decode(bytes);
     if (sheet.isNull()) {
         why = Sentence(path, QStringLiteral("is damaged: its picture cannot be read to the end."));

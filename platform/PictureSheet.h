@@ -31,6 +31,9 @@ public:
     // Cell 0 .. 38; a null image for any other number.
     [[nodiscard]] QImage Render(int cell, qreal scale) const override;
 
+    // The bytes of the file it came from.
+    [[nodiscard]] const QByteArray& Bytes() const { return bytes_; }
+
     // Cell 0 alone in its own resolution, without the sheet's memory: what a thumbnail needs.
     [[nodiscard]] Picture Thumbnail() const;
 

@@ -12,6 +12,8 @@ void Dress(Label& label, Look::Text text, Colour colour, Qt::Alignment alignment
     label.setAlignment(alignment);
 }
 
+constexpr int kMostLetters = 64;  // of a name
+
 void HandCursor(QWidget& control) {
     control.setCursor(Qt::PointingHandCursor);
 }
@@ -24,6 +26,7 @@ void frmGame::DressControls() {
     DressSkinScreen();
     DressHelpScreen();
     DressScoreScreen();
+    DressNameEntry();
 }
 
 void frmGame::DressWindow() {
@@ -51,8 +54,6 @@ void frmGame::DressWindow() {
         Dress(lblCaption[i], Text::Normal, kWhite);
         shpArea[i].Look(QColor(0xC9, 0xA2, 0x4B), QColor(0x1B, 0x2A, 0x4E), 6);
     }
-    picEnterName.BackColor(Look::kPanel);
-    Dress(Label3, Text::Heading, Look::kLevel);
 }
 
 void frmGame::DressBoard() {
@@ -120,4 +121,14 @@ void frmGame::DressScoreScreen() {
     Dress(Label15, Text::Small, Look::kLevel);
     Dress(Label4, Text::Small, Look::kLink);
     Label4.Caption(Links::kHomeText);
+}
+
+// Light grey in a brass frame between dark edges.
+void frmGame::DressNameEntry() {
+    picEnterName.BackColor(Look::kPanel);
+    picEnterName.Visible(false);  // so that the keyboard cannot reach it either
+    shpEnterName[0].Look(QColor(0x4A, 0x36, 0x10), QColor(0xC9, 0xA2, 0x4B));
+    shpEnterName[1].Look(QColor(0x8A, 0x66, 0x1E), ToQColor(Look::kPanel));
+    Dress(Label3, Look::Text::Heading, Look::kLevel);
+    txtName.setMaxLength(kMostLetters);
 }

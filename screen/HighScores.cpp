@@ -1,8 +1,13 @@
-// The end of a game and the table of the four best.
+// The end of a game, the name of a player who is among the four best, and the screen that shows them.
 
+#include <QLocale>
+
+#include "screen/HighScoreTable.h"
 #include "screen/frmGame.h"
 
-void mdlFormFunc::InitHighScoreTable() {}
+void mdlFormFunc::InitHighScoreTable() {
+    CreateHighScores();
+}
 
 void mdlFormFunc::GameOver() {
     form_.Game().RndAction(true);
@@ -13,4 +18,42 @@ void mdlFormFunc::GameOver() {
     form_.Timer1.Enabled(false);
     form_.Timer2.Enabled(false);
     form_.prbTime.Value(0);
+    if (RowForScore(form_.lblScore.Caption())) form_.AskForName();
+}
+
+void frmGame::AskForName() {
+    const Frame& board = fraScreen[0];
+    picEnterName.Left(board.Left() + board.Width() / 2 - picEnterName.Width() / 2);
+    picEnterName.Top(board.Top() + board.Height() / 2 - picEnterName.Height() / 2);
+    picEnterName.raise();
+    picEnterName.Visible(true);
+    setFocusProxy(&txtName);  // a click beside the panel, to move the window, does not end the typing
+    txtName.setFocus();
+    txtName.selectAll();
+    EnableMenu(false);
+}
+
+void frmGame::cmdOk_Click() {
+    const QString today = QLocale().toString(world_.time.Today(), QLocale::ShortFormat);
+    EnterHighScore({txtName.Text(), today, lblScore.Caption()});
+    setFocusProxy(nullptr);
+    setFocus();  // before the field is hidden, which would hand the keyboard to some other control
+    picEnterName.Visible(false);
+    EnableMenu(true);
+    imgButton_Click(3);
+}
+
+void frmGame::EnableMenu(bool enabled) {
+    for (Image& button : imgButton) button.Enabled(enabled);
+}
+
+void frmGame::ShowScores() {
+    for (std::size_t row = 0; row < lblName.size(); ++row) {
+        const HighScore stored = StoredHighScore(static_cast<int>(row));
+        lblName[row].Caption(stored.name);
+        lblDate[row].Caption(stored.date);
+        lblHighScore[row].Caption(stored.score);
+    }
+    picPreview.Picture({});
+    prbTime.Value(0);
 }

@@ -5,7 +5,6 @@
 #include "model/Levels.h"
 #include "screen/Look.h"
 #include "screen/frmGame.h"
-#include "shell/mdlRegistry.h"
 #include "shell/mdlSound.h"
 
 namespace {
@@ -55,6 +54,10 @@ QString frmGame::RunAction(std::int16_t menu) {
         case kScore:
             ShowScores();
             break;
+        case kMore:
+            lblNextCard.Visible(true);
+            ShowInfo();
+            break;
         default:
             ShowHelp();
             break;
@@ -82,6 +85,8 @@ QString frmGame::StartGame() {
     Game().RndAction(false);
     play = Play::On;
     lblCardsLeft.Visible(true);
+    setFocus();  // the board takes the keys, whatever had them
+    recording_.NewGame(Game().CurrentCard());
     return {};
 }
 
@@ -94,20 +99,6 @@ void frmGame::ShowMenu() {
 void frmGame::ShowHelp() {
     lblNextCard.Visible(true);
     picPreview.Picture({});
-}
-
-void frmGame::ShowScores() {
-    const auto stored = [](const char* column, std::size_t row) {
-        return mdlRegistry::ReadRegString(mdlRegistry::kCurrentUser, QLatin1String(column),
-                                          QString::number(row));
-    };
-    for (std::size_t row = 0; row < lblName.size(); ++row) {
-        lblName[row].Caption(stored("Software\\Tesselor\\Name", row));
-        lblDate[row].Caption(stored("Software\\Tesselor\\Date", row));
-        lblHighScore[row].Caption(stored("Software\\Tesselor\\Score", row));
-    }
-    picPreview.Picture({});
-    prbTime.Value(0);
 }
 
 // The high scores light no caption; the one lit before is remembered, and comes back with another button.

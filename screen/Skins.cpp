@@ -1,5 +1,6 @@
 // The skins: which files fill the slots, the choice of one, and the picture set a game is played with.
 
+#include "screen/SkinFiles.h"
 #include "screen/frmGame.h"
 #include "shell/mdlSound.h"
 
@@ -42,6 +43,48 @@ void frmGame::FinishSkinSlots() {
         ++slot;
     }
     ChooseSkin(0);
+}
+
+// Makes slot `slot` that of the skin `file`, which lies in the skin folder; the first empty slot comes into
+// use.
+void frmGame::FillSlot(std::int16_t slot, const QString& file) {
+    if (!PicClipTemp.Load(world_.folder.Path(kSkinFolder + file)).isEmpty()) return;
+    skinFile[static_cast<std::size_t>(slot)] = file;
+    PictureBox& box = picSkin[static_cast<std::size_t>(slot)];
+    box.Clear();
+    box.PaintPicture(PicClipTemp.Thumbnail(), kThumbnailCorner);
+    if (slot >= SkinCount && static_cast<std::size_t>(SkinCount) < picSkin.size()) ++SkinCount;
+}
+
+void frmGame::picSkin_OLEDragDrop(std::int16_t& Index, const QString& Data, std::int32_t&, std::int16_t,
+                                  std::int16_t, float, float) {
+    if (Index < 0 || static_cast<std::size_t>(Index) >= picSkin.size()) return;
+    FinishSkinSlots();
+    Index = std::min(Index, SkinCount);
+    const QString folder = world_.folder.Path(kSkinFolder);
+    QString name = NameInFolder(Data, folder);
+    if (const auto known = std::find(skinFile.begin(), skinFile.end(), name);
+        !name.isEmpty() && known != skinFile.end())
+        Index = static_cast<std::int16_t>(known - skinFile.begin());
+    else if (name.isEmpty() && (name = Install(Data, folder, Index)).isEmpty())
+        return;
+    FillSlot(Index, name);
+    picSkin_MouseUp(Index, 0, 0, 0, 0);
+    picSkin_MouseMove(Index, 0, 0, 0, 0);
+}
+
+// The name under which the dropped file came into the skin folder; empty when the player was told why not, or
+// would not have the old skin replaced.
+QString frmGame::Install(const QString& dropped, const QString& folder, std::int16_t slot) {
+    if (const QString why = WhyNotASheet(dropped); !why.isEmpty())
+        return world_.dialogs.Tell(this, why), QString();
+    if (slot < SkinCount &&
+        !world_.dialogs.Ask(this, QStringLiteral("Are You Sure You want To Replace This Skin !")))
+        return {};
+    const QString replaced = slot < SkinCount ? skinFile[static_cast<std::size_t>(slot)] : QString();
+    const InstalledSkin installed = InstallSkin(dropped, folder, replaced);
+    if (!installed.problem.isEmpty()) world_.dialogs.Tell(this, installed.problem);
+    return installed.name;
 }
 
 void frmGame::CloseUpSlot(std::int16_t slot) {

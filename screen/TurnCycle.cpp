@@ -41,6 +41,7 @@ void frmGame::picMat_MouseMove(std::int16_t Index, std::int16_t, std::int16_t, f
     if (Index < 0 || Index >= kCells) return;
     const std::int16_t oldCell = Game().PosCurrentCard();
     Game().PosCurrentCard(Index);
+    recording_.Move(Index);
     mdlSound::PlayWave(mdlSound::Wave(104));
     if (Game().CheckForCard())
         formFunc_.DrawCardMoveOverCard(Game().PosCurrentCard(), oldCell);
@@ -154,6 +155,10 @@ bool mdlFormFunc::PlayWave(std::int16_t resource) {
     return mdlSound::PlayWave(mdlSound::Wave(resource));
 }
 
-bool mdlFormFunc::PlaySoundFile(std::string_view /*source*/, std::uint32_t /*flags*/) {
-    return false;
+// The window is never kept waiting for a sound, so nothing but the kind of source is read from the flags.
+bool mdlFormFunc::PlaySoundFile(std::string_view source, std::uint32_t flags) {
+    if ((flags & SND_FILENAME) == 0) return false;
+    World& world = form_.TheWorld();
+    return world.soundFiles.Play(
+        world.folder.Path(QString::fromUtf8(source.data(), qsizetype(source.size()))));
 }

@@ -5,6 +5,7 @@
 #include "model/RandomSource.h"
 #include "platform/Dialogs.h"
 #include "platform/ProgramFolder.h"
+#include "platform/SoundFiles.h"
 #include "platform/Time.h"
 
 // What the game window needs of the world outside it. All of it must outlive the window.
@@ -12,6 +13,8 @@ struct World {
     Time& time;
     RandomSource& random;
     Dialogs& dialogs;
+    SoundFiles& soundFiles;
     ProgramFolder folder;
-    std::function<void()> endAtOnce;  // ends the process without unloading anything
+    std::function<void()> endAtOnce;                  // ends the process without unloading anything
+    std::function<void(const QString&)> openAddress;  // shows a web address in the player's browser
 };

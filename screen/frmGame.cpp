@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "screen/Look.h"
+#include "screen/frmInfo.h"
 #include "shell/mdlSound.h"
 
 namespace {
@@ -101,9 +102,10 @@ void frmGame::LayScreens() {
 
 void frmGame::Form_Unload(std::int16_t& /*Cancel*/) {
     StopDemo = true;
+    unloaded_ = true;
     Timer1.Enabled(false);
     Timer2.Enabled(false);
-    game_.reset();
+    if (!demoRuns_) game_.reset();
 }
 
 void frmGame::ConnectControls() {
@@ -119,12 +121,29 @@ void frmGame::ConnectControls() {
         imgButton[static_cast<std::size_t>(i)].onClick = [this, i] { imgButton_Click(i); };
         lblClass[static_cast<std::size_t>(i)].onClick = [this, i] { lblClass_Click(i); };
     }
+    for (std::size_t i = 0; i < picSkin.size(); ++i)
+        picSkin[i].OnFileDrop([this, i](const QString& path) {
+            auto index = static_cast<std::int16_t>(i);
+            std::int32_t effect = 0;
+            picSkin_OLEDragDrop(index, path, effect, 0, 0, 0, 0);
+        });
     Image1.onClick = [this] { Image1_Click(); };
     imgMinimaize.onClick = [this] { imgMinimaize_Click(); };
+    imgWebLink.onClick = [this] { imgWebLink_Click(); };
+    Label14.onClick = [this] { Label14_Click(); };
+    Label4.onClick = [this] { Label4_Click(); };
+    Label17.onClick = [this] { Label17_Click(); };
+    connect(&cmdHelp, &QPushButton::clicked, this, &frmGame::cmdHelp_Click);
+    connect(&cmdDemo, &QPushButton::clicked, this, &frmGame::cmdDemo_Click);
+    connect(&cmdPrint, &QPushButton::clicked, this, &frmGame::cmdPrint_Click);
+    connect(&cmdOk, &QPushButton::clicked, this, &frmGame::cmdOk_Click);
+    connect(&txtName, &QLineEdit::returnPressed, this, &frmGame::cmdOk_Click);
 }
 
 void frmGame::keyPressEvent(QKeyEvent* event) {
     const std::int16_t key = VirtualKey(event->key());
+    // A key would put the script of a demonstration out of step with its board; leaving is always possible.
+    if (demoRuns_ && event->key() != Qt::Key_Escape) return;
     if (key == 0) return QWidget::keyPressEvent(event);
     Form_KeyDown(key, 0);
 }

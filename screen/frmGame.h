@@ -10,22 +10,26 @@
 #include "platform/Frame.h"
 #include "platform/Image.h"
 #include "platform/Label.h"
+#include "platform/LineLabel.h"
 #include "platform/PictureBox.h"
 #include "platform/PictureClip.h"
 #include "platform/Shape.h"
 #include "platform/Timer.h"
 #include "screen/ControlArray.h"
+#include "screen/Recording.h"
 #include "screen/TimeBar.h"
 #include "screen/World.h"
 #include "screen/mdlFormFunc.h"
 #include "shell/WindowShape.h"
 
+class frmInfo;
+
 // The program's one game window: the board, the menu bar and four screens that replace one another in the
 // same place. Its handlers are public and callable directly, with made-up arguments too: an index outside a
 // control array does nothing, unless the handler says otherwise.
 //
-// The handlers are in one file a subject: Menu, TurnCycle, Skins, HighScores, Help; what the model asks for
-// is in mdlFormFunc (Drawing). This file's own source builds the window and runs its set-up.
+// The handlers are in one file a subject: Menu, TurnCycle, Skins, HighScores, Demo, Help; what the model asks
+// for is in mdlFormFunc (Drawing). This file's own source builds the window and runs its set-up.
 class frmGame final : public QWidget {
 public:
     // Builds the window and runs Form_Load. Nothing is shown yet.
@@ -65,6 +69,30 @@ public:
     void FinishSkinSlots();
     void picSkin_MouseMove(std::int16_t Index, std::int16_t Button, std::int16_t Shift, float X, float Y);
     void picSkin_MouseUp(std::int16_t Index, std::int16_t Button, std::int16_t Shift, float X, float Y);
+
+    // A file was dropped on slot Index, which becomes the slot it ends up in: on an empty slot, the first
+    // empty one. Data: its path. It is moved into the skin folder and chosen.
+    void picSkin_OLEDragDrop(std::int16_t& Index, const QString& Data, std::int32_t& Effect,
+                             std::int16_t Button, std::int16_t Shift, float X, float Y);
+
+    // --- the demonstration and the recording (Demo.cpp) ---
+    // Plays the built-in game; returns when it has ended or was asked to. A call while one runs does nothing.
+    void cmdDemo_Click();
+    // Adds the recording of this run to the file "\\array.txt".
+    void cmdPrint_Click();
+
+    // --- high scores (HighScores.cpp) ---
+    // Opens the name entry over the board; until its OK button the menu is closed.
+    void AskForName();
+    // Enters the score with the name typed, closes the name entry and shows the table.
+    void cmdOk_Click();
+
+    // --- help, links and the information window (Help.cpp) ---
+    void cmdHelp_Click();
+    void Label14_Click();
+    void Label4_Click();
+    void Label17_Click();
+    void imgWebLink_Click();
 
     // --- the window itself ---
     // A press on the background: the window moves with the mouse.
@@ -142,9 +170,9 @@ public:
 
     Label lblCName{&fraScreen[3], Design("lblCName")}, lblCDate{&fraScreen[3], Design("lblCDate")};
     Label lblCHighScore{&fraScreen[3], Design("lblCHighScore")};
-    std::array<Label, 4> lblName = ControlArray<Label, 4>("lblName", Inside(fraScreen[3]));
-    std::array<Label, 4> lblDate = ControlArray<Label, 4>("lblDate", Inside(fraScreen[3]));
-    std::array<Label, 4> lblHighScore = ControlArray<Label, 4>("lblHighScore", Inside(fraScreen[3]));
+    std::array<LineLabel, 4> lblName = ControlArray<LineLabel, 4>("lblName", Inside(fraScreen[3]));
+    std::array<LineLabel, 4> lblDate = ControlArray<LineLabel, 4>("lblDate", Inside(fraScreen[3]));
+    std::array<LineLabel, 4> lblHighScore = ControlArray<LineLabel, 4>("lblHighScore", Inside(fraScreen[3]));
     Shape Line2{&fraScreen[3], Design("Line2")}, Line4{&fraScreen[3], Design("Line4")};
     Shape Line5{&fraScreen[3], Design("Line5")}, Line6{&fraScreen[3], Design("Line6")};
     Shape Line7{&fraScreen[3], Design("Line7")};
@@ -155,6 +183,7 @@ public:
     std::array<Image, 5> imgButton = ControlArray<Image, 5>("imgButton", MenuHolder());
 
     Frame picEnterName{this, Design("picEnterName")};
+    std::array<Shape, 2> shpEnterName = ControlArray<Shape, 2>("shpEnterName", Inside(picEnterName));
     Label Label3{&picEnterName, Design("Label3")};
     TextBox txtName{&picEnterName, Design("txtName")};
     CommandButton cmdOk{&picEnterName, Design("cmdOk")};
@@ -180,6 +209,7 @@ private:
     void DressSkinScreen();
     void DressHelpScreen();
     void DressScoreScreen();
+    void DressNameEntry();
 
     void ConnectControls();
     void LayScreens();
@@ -191,17 +221,32 @@ private:
     void ShowMenu();
     void ShowHelp();
     void ShowScores();
+    void EnableMenu(bool enabled);
     void Highlight(std::int16_t menu);
 
     void Pause();
     void Resume();
     void GiveBackActiveCell();
+    void RunDemo();
+    void DemoLock(std::size_t step, std::size_t turn);
+    void DemoMove(std::size_t step);
+    void EndDemo();
+    static void Show(PictureBox& box, const Picture& picture);  // at once
+
+    void ShowInfo();
+
     void ChooseSkin(std::int16_t slot);
     void CloseUpSlot(std::int16_t slot);
+    void FillSlot(std::int16_t slot, const QString& file);
+    QString Install(const QString& dropped, const QString& folder, std::int16_t slot);
 
     mdlFormFunc formFunc_{*this};
     std::unique_ptr<clsCard> game_;
     WindowMove move_;
     bool timersPaused_ = false;  // the pause stopped running timers, so a resume starts them again
     bool skinsFinished_ = false;
+    Recording recording_;
+    bool demoRuns_ = false;
+    bool unloaded_ = false;  // while a demonstration runs: the model goes when it has unwound
+    std::unique_ptr<frmInfo> info_;
 };

@@ -7,12 +7,18 @@
 #include <cstdlib>
 
 #include "platform/Dialogs.h"
+#include "platform/RegistryHive.h"
+#include "platform/Shell.h"
+#include "platform/SoundFiles.h"
+#include "platform/SoundPlayer.h"
 #include "platform/Time.h"
 #include "screen/Look.h"
 #include "screen/frmGame.h"
 #include "shell/ClockRandom.h"
 #include "shell/frmIcon.h"
 #include "shell/mdlFontSize.h"
+#include "shell/mdlRegistry.h"
+#include "shell/mdlSound.h"
 
 namespace {
 
@@ -43,9 +49,15 @@ int mdlMain::Main() {
         frmIcon().exec();
         return EXIT_SUCCESS;
     }
+    RegistryHive hive(RegistryHive::UserFile());
+    mdlRegistry::Hive(&hive);
+    SoundPlayer player;
+    SoundFiles soundFiles(player);
+    mdlSound::Output(&player);
     RealTime time;
     MessageBoxes dialogs;
-    frmGame form({time, random, dialogs, ProgramFolder::Find(), [] { std::_Exit(EXIT_SUCCESS); }});
+    frmGame form({time, random, dialogs, soundFiles, ProgramFolder::Find(), [] { std::_Exit(EXIT_SUCCESS); },
+                  OpenAddress});
     form.show();
     return QApplication::exec();
 }

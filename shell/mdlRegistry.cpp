@@ -21,11 +21,20 @@ void Hive(RegistryHive* hive) {
 QString ReadRegString(std::uint32_t root, const QString& path, const QString& name,
                       const QString& defaultText) {
     if (!IsKept(root)) return defaultText;
-    return theHive->String(path, name).value_or(defaultText);
+    const std::optional<QString> text = theHive->String(path, name);
+    return text ? text->left(text->indexOf(QChar(u'\0'))) : defaultText;
 }
 
 void WriteRegString(std::uint32_t root, const QString& path, const QString& name, const QString& text) {
     if (IsKept(root)) theHive->SetString(path, name, text);
+}
+
+Step::Step() {
+    if (theHive) theHive->Begin();
+}
+
+Step::~Step() {
+    if (theHive) theHive->End();
 }
 
 }  // namespace mdlRegistry

@@ -13,12 +13,22 @@ inline constexpr std::uint32_t kCurrentUser = 0x80000001;  // HKEY_CURRENT_USER
 // The store behind both operations; null, as at first, for none. It must outlive its use here.
 void Hive(RegistryHive* hive);
 
-// The text stored under `name` in the key `path` ("Software\Tesselor\Name"); `defaultText` when the key or
-// the value is missing, or the value is not a string.
+// The text stored under `name` in the key `path` ("Software\Tesselor\Name"), up to its first zero character;
+// `defaultText` when the key or the value is missing, or the value is not a string.
 [[nodiscard]] QString ReadRegString(std::uint32_t root, const QString& path, const QString& name,
                                     const QString& defaultText = {});
 
 // Stores `text` under `name` in the key `path`, making the key when it is missing. A failure goes unnoticed.
 void WriteRegString(std::uint32_t root, const QString& path, const QString& name, const QString& text);
+
+// While it lives, all reads and writes are one step: other processes stay out, and the writes reach the disk
+// together at its end. Steps do not nest.
+class Step {
+public:
+    Step();
+    ~Step();
+    Step(const Step&) = delete;
+    Step& operator=(const Step&) = delete;
+};
 
 }  // namespace mdlRegistry

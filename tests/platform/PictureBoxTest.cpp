@@ -58,11 +58,10 @@ TEST(PictureBox, KeepsDrawingsUntilPictureOrClear) {
     EXPECT_EQ(box.Contents().Render(1.25).size(), QSize(75, 75));
 }
 
-// The grid of a sheet whose size does not divide evenly loses no pixel, and cells keep their aspect.
 TEST(PictureSheet, CutsAnySizeIntoFittedCells) {
     QTemporaryDir folder;
     const QString path = folder.filePath("sheet.png");
-    for (const QSize size : {QSize(3, 13), QSize(100, 200), QSize(541, 2339)}) {
+    for (const QSize size : {QSize(3, 13), QSize(99, 208), QSize(540, 2340)}) {
         QImage sheet(size, QImage::Format_RGB32);
         for (int y = 0; y < size.height(); ++y)
             for (int x = 0; x < size.width(); ++x)
@@ -83,12 +82,13 @@ TEST(PictureSheet, CutsAnySizeIntoFittedCells) {
 // The sentence names the file and what is wrong with it.
 TEST(PictureSheet, SaysWhyAFileIsNoSheet) {
     QTemporaryDir folder;
-    QImage(200, 12, QImage::Format_RGB32).save(folder.filePath("stone.png"));
-    QImage(4001, 4001, QImage::Format_Mono).save(folder.filePath("wall.png"));
-    EXPECT_EQ(
-        WhyNotASheet(folder.filePath("stone.png")),
-        "\"stone.png\" is 200 x 12 pixels; a skin is 3 cells wide and 13 high, at least 3 x 13 pixels.");
-    EXPECT_TRUE(WhyNotASheet(folder.filePath("wall.png")).startsWith("\"wall.png\" is 4001 x 4001 pixels"));
+    QImage(200, 300, QImage::Format_RGB32).save(folder.filePath("stone.png"));
+    QImage(4002, 4004, QImage::Format_Mono).save(folder.filePath("wall.png"));
+    EXPECT_EQ(WhyNotASheet(folder.filePath("stone.png")),
+              "\"stone.png\" is 200 x 300 pixels; a skin is 3 cells wide and 13 high, at least 3 x 13 "
+              "pixels: its width "
+              "divides by 3 and its height by 13.");
+    EXPECT_TRUE(WhyNotASheet(folder.filePath("wall.png")).startsWith("\"wall.png\" is 4002 x 4004 pixels"));
     EXPECT_EQ(WhyNotASheet(folder.filePath("none.png")), "\"none.png\" is not there.");
 }
 

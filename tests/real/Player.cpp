@@ -40,14 +40,17 @@ bool IsOneColour(const QImage& image, QRgb colour) {
 
 }  // namespace
 
-Player::Player(int scale) : scale_(scale) {
+Player::Player(int scale, const QString& home) : scale_(scale) {
     QString why;
-    const auto sheet = PictureSheet::Load(TESSELOR_BUILD "/Art/sea.png", why);
+    const QDir art((home.isEmpty() ? QStringLiteral(TESSELOR_BUILD) : home) + "/Art");
+    const QStringList skins = art.entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
+    const auto sheet = PictureSheet::Load(art.filePath(skins.value(0)), why);
     for (int k = 0; sheet && k < kSheetCells; ++k)
         cards_[static_cast<std::size_t>(k)] = OnWhite(sheet->Render(k, scale));
     QProcessEnvironment environment = display_.Environment();
     environment.insert("QT_SCALE_FACTOR", QString::number(scale));
     environment.insert("LC_ALL", "C.UTF-8");
+    if (!home.isEmpty()) environment.insert("TESSELOR_HOME", home);
     game_.setProcessEnvironment(environment);
     game_.setProcessChannelMode(QProcess::ForwardedChannels);
     game_.start(TESSELOR_BUILD "/tesselor", {});
@@ -97,7 +100,7 @@ bool Player::IsBlack(int cell) const {
 }
 
 bool Player::IsCovered() const {
-    for (int cell = 0; cell < 16; ++cell)
+    for (const int cell : {0, 1, 2, 3, 12, 13, 14, 15})
         if (window_->Look(Cell(cell)) != cards_[36]) return false;
     return true;
 }

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <memory>
-#include <optional>
 
 #include "platform/PictureSheet.h"
 #include "tools/display/RealWindow.h"
@@ -12,8 +11,9 @@
 // pictures and plays with keys and mouse. Knows of the game only what is to be seen.
 class Player {
 public:
-    // scale: the desktop's scale, 1 or 2.
-    explicit Player(int scale);
+    // scale: the desktop's scale, 1 or 2. home: the program's folder; that of the build when empty. Scores
+    // are kept in a folder of the player's own.
+    explicit Player(int scale, const QString& home = {});
     ~Player();
 
     // A cell as it is seen: a kind 0..38, nothing, or something that is neither (mid-change).
@@ -21,8 +21,9 @@ public:
     [[nodiscard]] int CardAt(int cell) const;
     [[nodiscard]] bool IsFramed(int cell) const;  // with the red frame of the active card
     [[nodiscard]] bool IsBlack(int cell) const;
-    [[nodiscard]] bool IsCovered() const;  // every cell shows the cover picture, none is framed
-    [[nodiscard]] int NextCard() const;    // in the preview
+    // The cells that no panel hides all show the cover picture.
+    [[nodiscard]] bool IsCovered() const;
+    [[nodiscard]] int NextCard() const;  // in the preview
 
     // Waits until the new card lies framed in the start cell and nothing is black, or the board is covered.
     bool AwaitTurn() const;
@@ -37,6 +38,7 @@ public:
     // Saves what is shown as <TESSELOR_SHOTS>/<name>@<scale>.png, when that folder is named.
     void Photograph(const char* name) const;
 
+    [[nodiscard]] const VirtualDisplay& Display() const { return display_; }
     [[nodiscard]] RealWindow& Window() const { return *window_; }
     [[nodiscard]] QRect Cell(int cell) const;  // the drawing area, in device pixels
     [[nodiscard]] int Scale() const { return scale_; }

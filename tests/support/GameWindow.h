@@ -5,6 +5,7 @@
 #include <deque>
 #include <random>
 
+#include "platform/SoundOutput.h"
 #include "screen/frmGame.h"
 #include "tests/support/VirtualTime.h"
 
@@ -37,6 +38,17 @@ public:
     bool answer = false;
 };
 
+// Remembers the sounds that would be heard, as the bytes of their files.
+class RecordedSounds final : public SoundOutput {
+public:
+    bool Play(const QByteArray& wave) override {
+        heard.append(wave);
+        return true;
+    }
+
+    QList<QByteArray> heard;
+};
+
 // A skin whose cells are all of different colours, as a PNG file.
 inline void WriteSkin(const QString& path, QSize cell = {20, 20}) {
     QImage sheet(cell.width() * kSheetColumns, cell.height() * kSheetRows, QImage::Format_RGB32);
@@ -59,8 +71,9 @@ public:
 
     void Open() {
         form.reset();
-        form = std::make_unique<frmGame>(
-            World{time, random, dialogs, ProgramFolder(folder.path()), [this] { ended = true; }});
+        form = std::make_unique<frmGame>(World{time, random, dialogs, soundFiles,
+                                               ProgramFolder(folder.path()), [this] { ended = true; },
+                                               [this](const QString& address) { opened.append(address); }});
     }
     void Play(int level = 0) {
         form->lblClass_Click(static_cast<std::int16_t>(level));
@@ -92,6 +105,9 @@ public:
     VirtualTime time;
     ScriptedRandom random;
     AnsweredDialogs dialogs;
+    RecordedSounds sounds;
+    SoundFiles soundFiles{sounds};
     bool ended = false;
+    QStringList opened;  // web addresses
     std::unique_ptr<frmGame> form;
 };

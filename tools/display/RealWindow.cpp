@@ -22,13 +22,14 @@ milliseconds Left(Clock::time_point end) {
 
 }  // namespace
 
-RealWindow::RealWindow(const QString& display, const QString& title)
+RealWindow::RealWindow(const QString& display, const QString& title, const RealWindow* other)
     : display_(XOpenDisplay(display.toLatin1().constData())) {
     if (!display_) return;
     XSetErrorHandler(IgnoreError);
     XSelectInput(display_, DefaultRootWindow(display_), SubstructureNotifyMask);
     WatchDamage();
-    Await([&] { return (window_ = Find(DefaultRootWindow(display_), title)) != 0; });
+    const unsigned long except = other ? other->window_ : 0;
+    Await([&] { return (window_ = Find(DefaultRootWindow(display_), title, except)) != 0; });
     if (window_ != 0) place_ = Place();
 }
 
@@ -50,7 +51,7 @@ RealWindow::~RealWindow() {
     if (display_) XCloseDisplay(display_);
 }
 
-unsigned long RealWindow::Find(unsigned long parent, const QString& title) const {
+unsigned long RealWindow::Find(unsigned long parent, const QString& title, unsigned long except) const {
     ::Window root = 0, above = 0, *children = nullptr, found = 0;
     unsigned count = 0;
     if (!XQueryTree(display_, parent, &root, &above, &children, &count)) return 0;
@@ -59,10 +60,10 @@ unsigned long RealWindow::Find(unsigned long parent, const QString& title) const
         XWindowAttributes attributes;
         const bool named = XFetchName(display_, children[i], &name) && title == QString::fromUtf8(name);
         if (name) XFree(name);
-        if (named && XGetWindowAttributes(display_, children[i], &attributes) &&
+        if (named && children[i] != except && XGetWindowAttributes(display_, children[i], &attributes) &&
             attributes.map_state == IsViewable)
             found = children[i];
-        if (!found) found = Find(children[i], title);
+        if (!found) found = Find(children[i], title, except);
     }
     if (children) XFree(children);
     return found;

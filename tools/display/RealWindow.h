@@ -11,8 +11,8 @@ struct _XDisplay;
 // Positions are device pixels from the window's corner.
 class RealWindow {
 public:
-    // Waits until a window with the title `title` is mapped on `display`.
-    RealWindow(const QString& display, const QString& title);
+    // Waits until a window with the title `title`, and another one than `other`, is mapped on `display`.
+    RealWindow(const QString& display, const QString& title, const RealWindow* other = nullptr);
     ~RealWindow();
     RealWindow(const RealWindow&) = delete;
     RealWindow& operator=(const RealWindow&) = delete;
@@ -41,7 +41,7 @@ public:
     void Release(unsigned button) const;
 
 private:
-    [[nodiscard]] unsigned long Find(unsigned long parent, const QString& title) const;
+    [[nodiscard]] unsigned long Find(unsigned long parent, const QString& title, unsigned long except) const;
     void WatchDamage();
     [[nodiscard]] bool AwaitDamage(std::chrono::milliseconds limit) const;
 

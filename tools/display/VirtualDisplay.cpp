@@ -55,6 +55,7 @@ QProcessEnvironment VirtualDisplay::Environment() const {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("DISPLAY", name_);
     environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("XDG_CONFIG_HOME", config_.path());
     environment.remove("WAYLAND_DISPLAY");
     return environment;
 }

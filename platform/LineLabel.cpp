@@ -1,0 +1,43 @@
+#include "platform/LineLabel.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+#include <algorithm>
+
+namespace {
+
+constexpr qsizetype kMostUnits = 200;  // to lay out; damaged text may be of any length
+
+bool IsControl(QChar unit) {
+    return unit.category() == QChar::Other_Control;
+}
+
+}  // namespace
+
+// Control characters become spaces, and any number of spaces and line breaks one.
+QString LineLabel::Line() const {
+    QString line = Caption().left(kMostUnits);
+    std::replace_if(line.begin(), line.end(), IsControl, QChar(u' '));
+    return line.simplified();
+}
+
+QString LineLabel::Fitting() const {
+    return fontMetrics().elidedText(Line(), Qt::ElideRight, width());
+}
+
+void LineLabel::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    const int flags = static_cast<int>(alignment()) | Qt::TextSingleLine;
+    style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), Fitting(), foregroundRole());
+}
+
+bool LineLabel::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return Label::event(event);
+    const QString line = Line();
+    // As rich text made of plain text: tooltips guess, and a name may look like markup.
+    const QString tip = Fitting() == line ? QString() : Qt::convertFromPlainText(line);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
+    return true;
+}

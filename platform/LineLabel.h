@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Label.h"
+
+// A label for text from outside the program: shown on one line whatever it holds, with an ellipsis where it
+// does not fit. The caption, and what a screen reader says, stay the whole text; a tooltip shows more of it.
+class LineLabel final : public Label {
+public:
+    using Label::Label;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+
+private:
+    [[nodiscard]] QString Line() const;
+    [[nodiscard]] QString Fitting() const;
+};

@@ -1,0 +1,46 @@
+#include "screen/ScoreText.h"
+
+#include <algorithm>
+#include <limits>
+#include <string_view>
+
+namespace {
+
+constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
+
+bool IsDigit(char32_t c) {
+    return QChar::category(c) == QChar::Number_DecimalDigit;
+}
+
+// Comma, full stop, apostrophes, underscore, the commas of Arabic and Fulah, and spaces of any width.
+bool IsGroupMark(char32_t c) {
+    constexpr std::u32string_view marks = U",.'\u2019_\u066C\u2E41";
+    return marks.find(c) != marks.npos || QChar::category(c) == QChar::Separator_Space;
+}
+
+// The first group has one to four digits (where four alone are not grouped, there are 2147.483.647 too),
+// those between two marks two or three.
+bool EndsGroup(int digits, bool first) {
+    return first ? digits >= 1 && digits <= 4 : digits == 2 || digits == 3;
+}
+
+}  // namespace
+
+std::int32_t ScoreFromText(const QString& text) {
+    std::int64_t number = 0;
+    int digits = 0;     // in the group so far
+    char32_t mark = 0;  // between the groups
+    for (const char32_t c : text.trimmed().toStdU32String()) {
+        if (IsDigit(c)) {
+            number = std::min(number * 10 + QChar::digitValue(c), kMost);
+            ++digits;
+        } else if (IsGroupMark(c) && (mark == 0 || c == mark) && EndsGroup(digits, mark == 0)) {
+            mark = c;
+            digits = 0;
+        } else {
+            return 0;
+        }
+    }
+    const bool complete = mark == 0 || digits == 3;
+    return complete ? static_cast<std::int32_t>(number) : 0;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+#include "platform/Image.h"
+#include "platform/Label.h"
+#include "platform/ProgramFolder.h"
+#include "platform/Shape.h"
+
+// The information window: the rules text, read from "\Res\Tesselor rules.txt" each time the window is made.
+// Without the file it is empty. Its button and Escape close it.
+class frmInfo final : public QWidget {
+public:
+    // `owner`: the game window, above which this one stays.
+    frmInfo(QWidget* owner, const ProgramFolder& folder);
+
+    void Form_Load(const ProgramFolder& folder);
+    void Form_MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y);
+    void imgButton_MouseMove(std::int16_t Button, std::int16_t Shift, float X, float Y);
+    void imgButton_Click();
+    void Form_Click() {}
+
+    QPlainTextEdit Text1{this};
+    Shape shpArea;
+    Label lblCaption;
+    Image imgButton;
+
+protected:
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};

@@ -1,0 +1,11 @@
+// Installs one skin: install_skin SOURCE FOLDER REPLACED. Exits with 1 when it was refused.
+
+#include <QCoreApplication>
+
+#include "screen/SkinFiles.h"
+
+int main(int argc, char* argv[]) {
+    const QCoreApplication application(argc, argv);
+    const auto argument = [argv](int i) { return QString::fromLocal8Bit(argv[i]); };
+    return InstallSkin(argument(1), argument(2), argument(3)).problem.isEmpty() ? 0 : 1;
+}

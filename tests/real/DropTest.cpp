@@ -1,0 +1,108 @@
+// Skins dropped on the real window from another program's, by the messages of a real drag.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include "tests/real/Player.h"
+
+namespace {
+
+constexpr QPoint kMenu(366, 216), kFirstSlot(192, 120);
+
+QPoint Slot(int slot) {
+    return kFirstSlot + QPoint(slot % 3 * 42, slot / 3 * 44);
+}
+
+class RealDrop : public testing::Test {
+protected:
+    RealDrop() {
+        QDir(home.path()).mkdir("Art");
+        for (const char* skin : {"a.png", "b.png"}) Copy(home.filePath(QString("Art/%1").arg(skin)));
+        Copy(outside.filePath("new.png"));
+    }
+    static void Copy(const QString& to) { QFile::copy(TESSELOR_BUILD "/Art/sea.png", to); }
+    [[nodiscard]] QStringList Art() const {
+        return QDir(home.filePath("Art")).entryList(QDir::Files, QDir::Name);
+    }
+
+    void OpenMenu() {
+        player = std::make_unique<Player>(1, home.path());
+        ASSERT_TRUE(player->Window().Found());
+        player->Window().MoveTo({100, 100});
+        const QImage before = player->Window().Look();
+        player->Click(kMenu);
+        ASSERT_TRUE(player->AwaitChange(before));
+    }
+    // Drags `file` from the other program's window to a slot and lets it go there.
+    void Drag(const QString& file, int slot) {
+        source.setProcessEnvironment(player->Display().Environment());
+        source.start(TESSELOR_BUILD "/tests/real/drag_source", {file});
+        RealWindow from(player->Display().Name(), "Source");
+        ASSERT_TRUE(from.Found());
+        const QPoint target = player->Window().OnScreen().topLeft() + Slot(slot) - from.OnScreen().topLeft();
+        from.MoveMouse({100, 100});
+        from.Press(1);
+        const QImage before = player->Window().Look();
+        for (int step = 1; step <= 20; ++step)
+            from.MoveMouse(QPoint(100, 100) + (target - QPoint(100, 100)) * step / 20);
+        // The game answers the drag that hovers before it can be let go.
+        for (int wiggle = 0; wiggle < 20; ++wiggle) {
+            from.MoveMouse(target + QPoint(wiggle % 3, 0));
+            from.Await([] { return false; }, std::chrono::milliseconds(20));
+        }
+        from.Release(1);
+    }
+    bool AwaitArt(const QStringList& names) {
+        return player->Window().Await([&] { return Art() == names; }, std::chrono::seconds(10));
+    }
+    // Answers the message box: waits for it, presses the key, and waits until it has gone.
+    void Answer(const char* key) {
+        RealWindow box(player->Display().Name(), "Tesselor", &player->Window());
+        ASSERT_TRUE(box.Found());
+        box.Focus();
+        box.Key(key);
+    }
+
+    QTemporaryDir home, outside;
+    std::unique_ptr<Player> player;
+    QProcess source;
+
+    void TearDown() override { source.kill(), source.waitForFinished(); }
+};
+
+TEST_F(RealDrop, OntoAnEmptySlotMovesTheFile) {
+    OpenMenu();
+    Drag(outside.filePath("new.png"), 7);
+    EXPECT_TRUE(AwaitArt({"a.png", "b.png", "new.png"}));
+    EXPECT_TRUE(player->Window().Await([&] { return !QFile::exists(outside.filePath("new.png")); }));
+    player->Photograph("dropped");
+}
+
+TEST_F(RealDrop, OntoAFullSlotAsks) {
+    OpenMenu();
+    Drag(outside.filePath("new.png"), 1);
+    Answer("Escape");
+    source.kill(), source.waitForFinished();
+    EXPECT_EQ(Art(), QStringList({"a.png", "b.png"}));
+    Drag(outside.filePath("new.png"), 1);
+    Answer("Return");
+    EXPECT_TRUE(AwaitArt({"a.png", "new.png"}));
+}
+
+TEST_F(RealDrop, OfABrokenPictureTellsAndOfAKnownSkinChooses) {
+    QFile::resize(outside.filePath("new.png"), 1000);
+    OpenMenu();
+    Drag(outside.filePath("new.png"), 5);
+    Answer("Return");
+    EXPECT_TRUE(QFile::exists(outside.filePath("new.png")));
+    source.kill(), source.waitForFinished();
+    const QImage before = player->Window().Look(QRect(60, 240, 120, 80));  // the chosen skin and its name
+    Drag(home.filePath("Art/b.png"), 9);
+    EXPECT_TRUE(
+        player->Window().Await([&] { return player->Window().Look(QRect(60, 240, 120, 80)) != before; }));
+    EXPECT_EQ(Art(), QStringList({"a.png", "b.png"}));
+}
+
+}  // namespace

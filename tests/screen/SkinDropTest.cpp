@@ -1,0 +1,150 @@
+// Skins installed by dropping files on slots: what is asked, where they end up, and that no file is ever
+// lost.
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDropEvent>
+#include <QFile>
+#include <QMimeData>
+#include <QUrl>
+
+#include "tests/support/GameWindow.h"
+
+namespace {
+
+const QString kQuestion = "Are You Sure You want To Replace This Skin !";
+
+class SkinDrop : public testing::Test {
+protected:
+    SkinDrop() {
+        WriteSkin(game.folder.filePath("Art/u.png"));
+        WriteSkin(game.folder.filePath("Art/v.png"));
+        game.Open();
+        game.form->FinishSkinSlots();
+    }
+    // Drops a new file `name` on slot `slot`; returns the slot it ended up in.
+    std::int16_t Drop(std::int16_t slot, const QString& path) {
+        std::int32_t effect = 0;
+        game.form->picSkin_OLEDragDrop(slot, path, effect, 0, 0, 0, 0);
+        return slot;
+    }
+    QString NewSkin(const QString& name, QSize cell = {7, 5}) {
+        WriteSkin(outside.filePath(name), cell);
+        return outside.filePath(name);
+    }
+    [[nodiscard]] QStringList Art() const {
+        return QDir(game.folder.filePath("Art")).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
+
+    GameWindow game;  // with the skins test.png, u.png, v.png
+    QTemporaryDir outside;
+};
+
+TEST_F(SkinDrop, OnAnyEmptySlotFillsTheFirstAndIsChosen) {
+    const QString file = NewSkin("new.png");
+    EXPECT_EQ(Drop(7, file), 3);
+    EXPECT_TRUE(game.dialogs.told.isEmpty());
+    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_EQ(game.form->SkinCount, 4);
+    EXPECT_EQ(game.form->lblSkinName.Caption(), "new");
+    EXPECT_EQ(game.Model().SetSkinPicture(), "new.png");
+    EXPECT_EQ(game.form->picSkin[3].Contents().Render(1).pixelColor(1, 20), QColor(Qt::red));
+    for (int i = 0; i < 9; ++i) Drop(11, NewSkin(QString("more%1.png").arg(i)));
+    EXPECT_EQ(game.form->SkinCount, 12);  // the ninth met a full slot and no Yes
+    EXPECT_EQ(game.dialogs.told, QStringList({kQuestion}));
+}
+
+TEST_F(SkinDrop, OnAFullSlotAsksFirst) {
+    const QString file = NewSkin("new.png");
+    Drop(1, file);
+    EXPECT_EQ(game.dialogs.told, QStringList({kQuestion}));
+    EXPECT_TRUE(QFile::exists(file));
+    EXPECT_EQ(Art(), QStringList({"test.png", "u.png", "v.png"}));
+    game.dialogs.answer = true;
+    Drop(1, file);
+    EXPECT_FALSE(QFile::exists(file));
+    EXPECT_EQ(Art(), QStringList({"new.png", "test.png", "v.png"}));
+    EXPECT_EQ(game.form->skinFile[1], "new.png");
+    EXPECT_EQ(game.form->SkinCount, 3);
+}
+
+TEST_F(SkinDrop, NamesThatClashGiveWay) {
+    struct Case {
+        const char* what;
+        std::int16_t slot;
+        const char* name;
+        const char* becomes;
+    };
+    const Case cases[] = {
+        {"another skin's name", 9, "u.png", "u-2.png"},
+        {"and again", 9, "u.png", "u-3.png"},
+        {"in another case", 9, "V.PNG", "V-2.PNG"},
+        {"that of the skin replaced is free", 1, "u.png", "u.png"},
+        {"without an ending", 9, "plain", "plain"},
+    };
+    game.dialogs.answer = true;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        const std::int16_t slot = Drop(c.slot, NewSkin(c.name));
+        EXPECT_EQ(game.form->skinFile[static_cast<std::size_t>(slot)], c.becomes);
+        EXPECT_TRUE(Art().contains(c.becomes));
+    }
+    EXPECT_EQ(Art().size(), 7);
+}
+
+TEST_F(SkinDrop, RefusesWhatIsNoSkinAndSaysWhy) {
+    const QString text = outside.filePath("text.png"), half = outside.filePath("half.png");
+    QFile(text).open(QIODevice::WriteOnly);
+    const QString good = NewSkin("good.png");
+    QFile::copy(good, half);
+    QFile::resize(half, QFile(half).size() / 2);
+    game.dialogs.answer = true;
+    for (const QString& file : {text, half, outside.filePath("gone.png"), outside.path()}) {
+        game.dialogs.told.clear();
+        Drop(1, file);
+        ASSERT_FALSE(game.dialogs.told.isEmpty());
+        EXPECT_TRUE(game.dialogs.told.last().startsWith('"' + QFileInfo(file).fileName() + '"'));
+        EXPECT_EQ(Art(), QStringList({"test.png", "u.png", "v.png"}));
+        EXPECT_EQ(game.form->skinFile[1], "u.png");
+    }
+    EXPECT_TRUE(QFile::exists(half));
+}
+
+TEST_F(SkinDrop, AFileOfTheSkinFolderBecomesTheChoice) {
+    EXPECT_EQ(Drop(0, game.folder.filePath("Art/v.png")), 2);
+    EXPECT_TRUE(game.dialogs.told.isEmpty());
+    EXPECT_EQ(game.form->CurrentSkin, 2);
+    EXPECT_EQ(Art(), QStringList({"test.png", "u.png", "v.png"}));
+}
+
+TEST_F(SkinDrop, OfALinkTheFileIsCopiedAndTheLinkGoes) {
+    const QString file = NewSkin("target.png");
+    const QString link = outside.filePath("link.png");
+    QFile::link(file, link);
+    Drop(9, link);
+    EXPECT_TRUE(QFile::exists(file));
+    EXPECT_FALSE(QFileInfo(link).isSymLink());
+    EXPECT_FALSE(QFileInfo(game.folder.filePath("Art/link.png")).isSymLink());
+}
+
+TEST_F(SkinDrop, OnlyFilesOfThisMachineAreTakenFromADrag) {
+    const QString file = NewSkin("new.png");
+    const std::pair<QList<QUrl>, bool> drags[] = {
+        {{QUrl::fromLocalFile(file), QUrl("https://tesselor.example/x.png")}, true},
+        {{QUrl("https://tesselor.example/x.png"), QUrl::fromLocalFile(file)}, false},
+        {{}, false},
+    };
+    for (const auto& [urls, taken] : drags) {
+        QMimeData data;
+        data.setUrls(urls);
+        data.setText("text");
+        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        enter.ignore();
+        QCoreApplication::sendEvent(&game.form->picSkin[5], &enter);
+        EXPECT_EQ(enter.isAccepted(), taken);
+    }
+}
+
+}  // namespace
