@@ -67,6 +67,15 @@ TEST(Demo, AnythingMayHappenInside) {
         {"close", [](GameWindow& g) { g.form->close(); }, true},
         {"a level", [](GameWindow& g) { g.form->lblClass_Click(3); }, false},
         {"another skin", [](GameWindow& g) { g.form->picSkin_MouseUp(0, 1, 0, 0, 0); }, false},
+        {"a dropped skin",
+         [](GameWindow& g) {
+             const QString file = g.folder.filePath("dropped.png");
+             WriteSkin(file);
+             std::int16_t slot = 5;
+             std::int32_t effect = 0;
+             g.form->picSkin_OLEDragDrop(slot, file, effect, 0, 0, 0, 0);
+         },
+         false},
         {"minimise", [](GameWindow& g) { g.form->imgMinimaize_Click(); }, false},
         {"a second demonstration", [](GameWindow& g) { g.form->cmdDemo_Click(); }, false},
         {"keys",
