@@ -11,7 +11,7 @@ namespace {
 constexpr TwipsRect kWindow{0, 0, 4710, 5820};
 constexpr TwipsRect kText{150, 150, 4410, 4980};
 // The most of the file that is shown: far more than a manual, and little enough to lay out at once.
-constexpr qint64 kMostBytes = 512 * 1024;
+constexpr qint64 kMostBytes = qint64{512} * 1024;
 
 QString RulesText(const QString& path) {
     QFile file(path);

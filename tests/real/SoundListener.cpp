@@ -29,6 +29,7 @@ SoundListener::~SoundListener() {
     End(server_);
 }
 
+// Without rewinding: what is heard of a speaker that rewinds lacks the first milliseconds of a sound.
 bool SoundListener::Start() {
     // Without rewinds: what the server would rewind and mix anew has been handed to a listener already, who
     // would miss the beginning of each sound.
