@@ -1,3 +1,5 @@
+#include <malloc.h>
+
 #include <QApplication>
 
 #include "shell/CommandLine.h"
@@ -5,6 +7,7 @@
 
 int main(int argc, char* argv[]) {
     if (const auto status = AnswerCommandLine(argc, argv)) return *status;
+    mallopt(M_MMAP_THRESHOLD, 1 << 20);  // a decoded picture goes back to the system, not to the heap
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tesselor"));

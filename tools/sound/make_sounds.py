@@ -18,7 +18,7 @@ from loudness import loudness
 HEAD = 44          # bytes of a WAVE file before its samples
 MIDDLE = 128       # silence in 8 bits
 STEP = 1 / 127     # one step of 8 bits, of full scale
-FADE = 0.006       # seconds in which a sound ends, at most a quarter of it
+FADE = 0.12        # seconds in which a sound ends, at most a quarter of it
 HIGHEST = 0.45     # of the sample rate: what lies above would come back as another tone
 CLEAR = 0.97       # of full scale: no sample may be beyond
 
@@ -100,8 +100,8 @@ def levelled(samples, rate, target):
 
 
 def eight_bits(samples, rate, chance):
-    """The bytes of `samples`. Rounding would turn soft tones into a buzz, so a little noise goes with them, and goes
-    with them when they end: what is softer than one step becomes silence."""
+    """The bytes of `samples`. Rounding would turn soft tones into a buzz, so a little noise goes with them and
+    ends with them: what is softer than half a step becomes silence."""
     envelope, release, out = 0.0, math.exp(-1 / (0.012 * rate)), bytearray()
     for value in samples:
         envelope = max(abs(value), envelope * release)
