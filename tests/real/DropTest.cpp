@@ -44,14 +44,16 @@ protected:
         const QPoint target = player->Window().OnScreen().topLeft() + Slot(slot) - from.OnScreen().topLeft();
         from.MoveMouse({100, 100});
         from.Press(1);
-        const QImage before = player->Window().Look();
         for (int step = 1; step <= 20; ++step)
             from.MoveMouse(QPoint(100, 100) + (target - QPoint(100, 100)) * step / 20);
-        // The game answers the drag that hovers before it can be let go.
-        for (int wiggle = 0; wiggle < 20; ++wiggle) {
-            from.MoveMouse(target + QPoint(wiggle % 3, 0));
-            from.Await([] { return false; }, std::chrono::milliseconds(20));
+        // The pointer keeps moving until the game has taken notice of what hovers over it.
+        QByteArray answers;
+        for (int step = 0; step < 400 && !answers.endsWith("taken\n"); ++step) {
+            from.MoveMouse(target + QPoint(step % 3, 0));
+            source.waitForReadyRead(50);
+            answers += source.readAllStandardOutput();
         }
+        EXPECT_TRUE(answers.endsWith("taken\n")) << answers.toStdString();
         from.Release(1);
     }
     bool AwaitArt(const QStringList& names) {

@@ -105,12 +105,14 @@ bool Player::IsCovered() const {
     return true;
 }
 
-bool Player::AwaitTurn() const {
+bool Player::AwaitTurn() {
     const auto turnBegins = [this] {
         if (IsCovered()) return true;
+        for (int cell = 0; cell < 16; ++cell)
+            if (IsBlack(cell)) return sawFlash_ = true, false;
         if (!IsFramed(kStart)) return false;
         for (int cell = 0; cell < 16; ++cell)
-            if (IsBlack(cell) || (cell != kStart && IsFramed(cell))) return false;
+            if (cell != kStart && IsFramed(cell)) return false;
         return NextCard() != kUnclear;
     };
     return window_->Await(turnBegins);

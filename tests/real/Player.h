@@ -26,7 +26,9 @@ public:
     [[nodiscard]] int NextCard() const;  // in the preview
 
     // Waits until the new card lies framed in the start cell and nothing is black, or the board is covered.
-    bool AwaitTurn() const;
+    bool AwaitTurn();
+    // Whether a cell was seen black while a turn was awaited: the flash of a line that goes.
+    [[nodiscard]] bool SawFlash() const { return sawFlash_; }
     // Waits until what is shown differs from `before`.
     bool AwaitChange(const QImage& before) const;
 
@@ -51,5 +53,6 @@ private:
     QProcess game_;
     std::unique_ptr<RealWindow> window_;
     std::array<QImage, kSheetCells> cards_;
+    bool sawFlash_ = false;
     int mouseCell_ = 0;  // where the game takes the mouse to be at first
 };

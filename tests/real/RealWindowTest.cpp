@@ -135,6 +135,15 @@ TEST_P(RealWindow_, CoversCellByCellBeforeThePlayersEyes) {
     EXPECT_EQ(covered, 1);
 }
 
+TEST_P(RealWindow_, IsLeftInTheMiddleOfACover) {
+    StartGame();
+    const QImage before = player.Window().Look();
+    player.Window().Key("p");
+    ASSERT_TRUE(player.AwaitChange(before));
+    EXPECT_FALSE(player.IsCovered());
+    EXPECT_EQ(player.Leave(), 0);
+}
+
 TEST_P(RealWindow_, IsMovedByItsBackgroundWithAnyButton) {
     if (GetParam() != 1) return;
     RealWindow& window = player.Window();
@@ -189,6 +198,7 @@ TEST_P(RealWindow_, ACheapPlayerUsesUpTheCards) {
         LockAt(CheapCell(board, kind), turns % 2 == 0);
     }
     EXPECT_TRUE(player.IsCovered());
+    EXPECT_TRUE(player.SawFlash());
     player.Photograph("no-cards");
 }
 

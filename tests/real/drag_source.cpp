@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QUrl>
 #include <QWidget>
+#include <cstdio>
 
 class DragSource final : public QWidget {
 public:
@@ -20,6 +21,11 @@ protected:
         data->setUrls({file_});
         auto* drag = new QDrag(this);  // owns the data, and is deleted by the toolkit when it has ended
         drag->setMimeData(data);
+        // Told to whoever drives the drag: it would be lost if it were let go before the target has answered.
+        connect(drag, &QDrag::actionChanged, this, [](Qt::DropAction action) {
+            std::puts(action == Qt::IgnoreAction ? "refused" : "taken");
+            std::fflush(stdout);
+        });
         drag->exec(Qt::CopyAction | Qt::MoveAction);
     }
 
