@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -10,13 +11,24 @@ class CommandButton : public Control<QPushButton> {
 public:
     CommandButton(QWidget* parent, const Placement& placement) : Control<QPushButton>(parent, placement) {
         setText(placement.caption);
-        setAutoDefault(true);  // pressed by Enter as by the space bar
+        setAutoDefault(true);          // pressed by Enter as by the space bar
+        setFocusPolicy(Qt::TabFocus);  // a click with the mouse moves no keyboard
+        access.role = QAccessible::PushButton;
+    }
+
+protected:
+    // The toolkit's button hands the keyboard on at an arrow; in this window that goes by direction.
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
+        arrow ? event->ignore() : QPushButton::keyPressEvent(event);
     }
 };
 
 class TextBox : public Control<QLineEdit> {
 public:
-    TextBox(QWidget* parent, const Placement& placement) : Control<QLineEdit>(parent, placement) {}
+    TextBox(QWidget* parent, const Placement& placement) : Control<QLineEdit>(parent, placement) {
+        access.role = QAccessible::EditableText;
+    }
 
     [[nodiscard]] QString Text() const { return text(); }
 

@@ -3,13 +3,15 @@
 #include <QMouseEvent>
 #include <functional>
 
+#include "platform/Access.h"
 #include "platform/Colour.h"
 #include "platform/Twips.h"
 
-// A Qt widget as a control of the game: named, placed in twips, shown or hidden by itself. Positions keep the
-// twips they were given, so that code computing with them never meets rounded values.
+// A Qt widget as a control of the game: named, placed in twips, shown or hidden by itself, described to who
+// does not see it. Positions keep the twips they were given, so that code computing with them never meets
+// rounded values.
 template <class Widget>
-class Control : public Widget {
+class Control : public Widget, public HasAccess {
 public:
     Control(QWidget* parent, const Placement& placement) : Widget(parent), place_(placement.place) {
         this->setObjectName(placement.name);

@@ -1,6 +1,7 @@
 #include "platform/Label.h"
 
 Label::Label(QWidget* parent, const Placement& placement) : MouseControl<QLabel>(parent, placement) {
+    access = {QAccessible::StaticText, [this] { return Caption().simplified(); }, {}, {}, {}};
     setTextFormat(Qt::PlainText);
     setText(placement.caption);
     ForeColor(kBlack);

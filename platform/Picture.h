@@ -22,6 +22,8 @@ public:
         : source_(std::move(source)), cell_(cell) {}
 
     [[nodiscard]] bool IsEmpty() const { return source_ == nullptr; }
+    // Which cell of its source it is; meaningless when empty.
+    [[nodiscard]] int Cell() const { return cell_; }
     // The image for `scale`; null when empty.
     [[nodiscard]] QImage At(qreal scale) const { return source_ ? source_->Render(cell_, scale) : QImage(); }
 

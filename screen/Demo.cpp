@@ -3,7 +3,7 @@
 // at before every step; so nothing a step uses may go before the demonstration has unwound.
 
 #include "screen/DemoScript.h"
-#include "screen/frmGame.h"
+#include "screen/Narrator.h"
 
 using namespace std::chrono_literals;
 
@@ -41,6 +41,7 @@ void frmGame::RunDemo() {
             DemoMove(step);
         world_.time.Wait(kStepPause);
         world_.time.ProcessEvents();
+        narrator_->Look();
     }
     EndDemo();
 }

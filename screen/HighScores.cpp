@@ -37,9 +37,9 @@ void frmGame::cmdOk_Click() {
     const QString today = QLocale().toString(world_.time.Today(), QLocale::ShortFormat);
     EnterHighScore({txtName.Text(), today, lblScore.Caption()});
     setFocusProxy(nullptr);
-    setFocus();  // before the field is hidden, which would hand the keyboard to some other control
-    picEnterName.Visible(false);
     EnableMenu(true);
+    imgButton[0].setFocus();  // before the field is hidden, which would hand the keyboard to any control
+    picEnterName.Visible(false);
     imgButton_Click(3);
 }
 

@@ -32,8 +32,7 @@ void frmGame::imgButton_MouseUp(std::int16_t Index, std::int16_t, std::int16_t, 
 void frmGame::imgButton_Click(std::int16_t Index) {
     if (Index < kPlay || Index > kMore) return;
     world_.random.Reseed();
-    for (Frame& screen : fraScreen) screen.Visible(false);
-    fraScreen[static_cast<std::size_t>(Index == kMore ? kHelp : Index)].Visible(true);
+    ShowScreen(Index == kMore ? kHelp : Index);
     Timer1.Enabled(false);
     Timer2.Enabled(false);
     lblNextCard.Visible(false);
@@ -42,6 +41,14 @@ void frmGame::imgButton_Click(std::int16_t Index) {
         return world_.dialogs.Tell(this, failure);
     Highlight(Index);
     mdlSound::PlayWave(mdlSound::Wave(111));
+}
+
+// The screen that stays is not hidden in between, for it would lose the keyboard.
+void frmGame::ShowScreen(std::int16_t index) {
+    const auto shown = static_cast<std::size_t>(index);
+    for (std::size_t i = 0; i < fraScreen.size(); ++i)
+        if (i != shown) fraScreen[i].Visible(false);
+    fraScreen[shown].Visible(true);
 }
 
 QString frmGame::RunAction(std::int16_t menu) {

@@ -42,6 +42,7 @@ void frmGame::FinishSkinSlots() {
         picSkin[static_cast<std::size_t>(slot)].PaintPicture(PicClipTemp.Thumbnail(), kThumbnailCorner);
         ++slot;
     }
+    OrderSkinSlots();
     ChooseSkin(0);
 }
 
@@ -54,6 +55,7 @@ void frmGame::FillSlot(std::int16_t slot, const QString& file) {
     box.Clear();
     box.PaintPicture(PicClipTemp.Thumbnail(), kThumbnailCorner);
     if (slot >= SkinCount && static_cast<std::size_t>(SkinCount) < picSkin.size()) ++SkinCount;
+    OrderSkinSlots();
 }
 
 void frmGame::picSkin_OLEDragDrop(std::int16_t& Index, const QString& Data, std::int32_t&, std::int16_t,

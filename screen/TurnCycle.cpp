@@ -55,6 +55,14 @@ void frmGame::picMat_MouseUp(std::int16_t, std::int16_t Button, std::int16_t, fl
         Form_KeyDown(kKeyLock, 0);
 }
 
+void frmGame::LockInCell(std::int16_t cell) {
+    if (Game().PosCurrentCard() != cell) {
+        HoverCell = -1;  // the mouse may rest in this very cell
+        picMat_MouseMove(cell, 0, 0, 0, 0);
+    }
+    if (Game().PosCurrentCard() == cell) picMat_MouseUp(cell, kLeftButton, 0, 0, 0);
+}
+
 void frmGame::picMat_MouseDown(std::int16_t, std::int16_t Button, std::int16_t, float, float) {
     if (play == Play::Off || Game().CardsInMatrix() >= kCells || Button != kRightButton) return;
     if (play == Play::On)

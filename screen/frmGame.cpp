@@ -2,36 +2,15 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QTimer>
 
 #include "screen/Look.h"
+#include "screen/Narrator.h"
 #include "screen/frmInfo.h"
 #include "shell/mdlSound.h"
 
 namespace {
-
-// The virtual-key code of a key; 0 for those the game has no use for.
-std::int16_t VirtualKey(int key) {
-    switch (key) {
-        case Qt::Key_Escape:
-            return 27;
-        case Qt::Key_Space:
-            return kKeyLock;
-        case Qt::Key_Left:
-            return kKeyLeft;
-        case Qt::Key_Up:
-            return kKeyUp;
-        case Qt::Key_Right:
-            return kKeyRight;
-        case Qt::Key_Down:
-            return kKeyDown;
-        case Qt::Key_P:
-            return 80;
-        default:
-            return 0;
-    }
-}
 
 // Binds a handler of a control array to each of its elements.
 template <class Array, class Handler>
@@ -55,7 +34,10 @@ frmGame::frmGame(World world) : world_(std::move(world)) {
     setFocusPolicy(Qt::StrongFocus);
     DressControls();
     ConnectControls();
+    DescribeControls();
+    OrderControls();
     Form_Load();
+    narrator_ = std::make_unique<Narrator>(*this);
 }
 
 frmGame::~frmGame() = default;
@@ -138,14 +120,6 @@ void frmGame::ConnectControls() {
     connect(&cmdPrint, &QPushButton::clicked, this, &frmGame::cmdPrint_Click);
     connect(&cmdOk, &QPushButton::clicked, this, &frmGame::cmdOk_Click);
     connect(&txtName, &QLineEdit::returnPressed, this, &frmGame::cmdOk_Click);
-}
-
-void frmGame::keyPressEvent(QKeyEvent* event) {
-    const std::int16_t key = VirtualKey(event->key());
-    // A key would put the script of a demonstration out of step with its board; leaving is always possible.
-    if (demoRuns_ && event->key() != Qt::Key_Escape) return;
-    if (key == 0) return QWidget::keyPressEvent(event);
-    Form_KeyDown(key, 0);
 }
 
 void frmGame::Form_MouseDown(std::int16_t Button, std::int16_t, float X, float Y) {

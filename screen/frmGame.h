@@ -9,6 +9,7 @@
 #include "platform/Button.h"
 #include "platform/Frame.h"
 #include "platform/Image.h"
+#include "platform/KeyboardFocus.h"
 #include "platform/Label.h"
 #include "platform/LineLabel.h"
 #include "platform/PictureBox.h"
@@ -22,15 +23,17 @@
 #include "screen/mdlFormFunc.h"
 #include "shell/WindowShape.h"
 
+class Narrator;
 class frmInfo;
 
 // The program's one game window: the board, the menu bar and four screens that replace one another in the
 // same place. Its handlers are public and callable directly, with made-up arguments too: an index outside a
 // control array does nothing, unless the handler says otherwise.
 //
-// The handlers are in one file a subject: Menu, TurnCycle, Skins, HighScores, Demo, Help; what the model asks
-// for is in mdlFormFunc (Drawing). This file's own source builds the window and runs its set-up.
-class frmGame final : public QWidget {
+// The handlers are in one file a subject: Menu, TurnCycle, Skins, HighScores, Demo, Help, Keyboard; what the
+// model asks for is in mdlFormFunc (Drawing), what assistive technology reads in Spoken and Narrator. This
+// file's own source builds the window and runs its set-up.
+class frmGame final : public QWidget, public HasAccess {
 public:
     // Builds the window and runs Form_Load. Nothing is shown yet.
     explicit frmGame(World world);
@@ -49,6 +52,9 @@ public:
     void picMat_MouseMove(std::int16_t Index, std::int16_t Button, std::int16_t Shift, float X, float Y);
     // Locks the active card where it is; Index may be any number.
     void picMat_MouseUp(std::int16_t Index, std::int16_t Button, std::int16_t Shift, float X, float Y);
+    // Moves the active card into `cell` (0..15) and locks it there, as a click in that cell does, wherever
+    // the mouse is. For assistive technology.
+    void LockInCell(std::int16_t cell);
     void Timer1_Timer();
     void Timer2_Timer();
 
@@ -188,6 +194,8 @@ public:
     TextBox txtName{&picEnterName, Design("txtName")};
     CommandButton cmdOk{&picEnterName, Design("cmdOk")};
 
+    FocusRing focusRing{this};
+
     PictureClip PicClip1, PicClipTemp;
     Timer Timer1{world_.time, [this] { Timer1_Timer(); }};
     Timer Timer2{world_.time, [this] { Timer2_Timer(); }};
@@ -211,9 +219,21 @@ private:
     void DressScoreScreen();
     void DressNameEntry();
 
+    // What the controls are in words (Spoken.cpp).
+    void DescribeControls();
+    void DescribeBoard();
+    void DescribeMenu();
+    void DescribeScreens();
+
     void ConnectControls();
     void LayScreens();
 
+    // Which controls take the keyboard, and in what order (Keyboard.cpp).
+    void OrderControls();
+    void OrderSkinSlots();
+    [[nodiscard]] bool BoardTakesKeys() const;
+
+    void ShowScreen(std::int16_t index);
     // The action of a menu button; the failure as a sentence for the player, empty when it went well.
     QString RunAction(std::int16_t menu);
     QString StartGame();
@@ -249,4 +269,5 @@ private:
     bool demoRuns_ = false;
     bool unloaded_ = false;  // while a demonstration runs: the model goes when it has unwound
     std::unique_ptr<frmInfo> info_;
+    std::unique_ptr<Narrator> narrator_;
 };

@@ -46,6 +46,15 @@ frmInfo::frmInfo(QWidget* owner, const ProgramFolder& folder)
         imgButton_MouseMove(in.button, in.shift, in.x, in.y);
     };
     imgButton.onClick = [this] { imgButton_Click(); };
+    access = {QAccessible::Dialog, [] { return QStringLiteral("The rules of the game"); }, {}, {}, {}};
+    lblCaption.access = {};
+    imgButton.access = {QAccessible::PushButton,
+                        [this] { return lblCaption.Caption(); },
+                        [this] { imgButton_Click(); },
+                        {},
+                        {}};
+    imgButton.setFocusPolicy(Qt::TabFocus);
+    Text1.setTabChangesFocus(true);
     Form_Load(folder);
 }
 
@@ -73,4 +82,5 @@ void frmInfo::mouseMoveEvent(QMouseEvent* event) {
 
 void frmInfo::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) close();
+    AnswerKey(*this, *event);
 }

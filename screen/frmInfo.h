@@ -3,13 +3,14 @@
 #include <QPlainTextEdit>
 
 #include "platform/Image.h"
+#include "platform/KeyboardFocus.h"
 #include "platform/Label.h"
 #include "platform/ProgramFolder.h"
 #include "platform/Shape.h"
 
 // The information window: the rules text, read from "\Res\Tesselor rules.txt" each time the window is made.
 // Without the file it is empty. Its button and Escape close it.
-class frmInfo final : public QWidget {
+class frmInfo final : public QWidget, public HasAccess {
 public:
     // `owner`: the game window, above which this one stays.
     frmInfo(QWidget* owner, const ProgramFolder& folder);
@@ -24,6 +25,7 @@ public:
     Shape shpArea;
     Label lblCaption;
     Image imgButton;
+    FocusRing focusRing{this};
 
 protected:
     void mouseMoveEvent(QMouseEvent* event) override;

@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <cstdlib>
 
+#include "platform/Access.h"
 #include "platform/Dialogs.h"
 #include "platform/RegistryHive.h"
 #include "platform/Shell.h"
@@ -44,6 +45,7 @@ int mdlMain::Main() {
     ChooseLocale();
     QImageReader::setAllocationLimit(kPictureMegabytes);
     Look::Apply(*qApp);
+    InstallAccess();
     QGuiApplication::setWindowIcon(ProgramIcon());
     if (!mdlFontSize::CheckSmallFonts()) {
         frmIcon().exec();

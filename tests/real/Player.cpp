@@ -79,6 +79,12 @@ int Player::CardAt(int cell) const {
     return kUnclear;
 }
 
+std::array<int, 16> Player::Board() const {
+    std::array<int, 16> board{};
+    for (int cell = 0; cell < 16; ++cell) board[static_cast<std::size_t>(cell)] = CardAt(cell);
+    return board;
+}
+
 int Player::NextCard() const {
     const QImage seen = Middle(window_->Look({54 * scale_, 331 * scale_, 60 * scale_, 60 * scale_}));
     for (int k = 0; k < kSheetCells; ++k)
@@ -144,5 +150,9 @@ void Player::Photograph(const char* name) const {
 
 int Player::Leave() {
     Click({384, 11});
+    return AwaitEnd();
+}
+
+int Player::AwaitEnd() {
     return game_.waitForFinished(10000) ? game_.exitCode() : -1;
 }

@@ -19,6 +19,7 @@ public:
     // A cell as it is seen: a kind 0..38, nothing, or something that is neither (mid-change).
     static constexpr int kNothing = -1, kUnclear = -2;
     [[nodiscard]] int CardAt(int cell) const;
+    [[nodiscard]] std::array<int, 16> Board() const;
     [[nodiscard]] bool IsFramed(int cell) const;  // with the red frame of the active card
     [[nodiscard]] bool IsBlack(int cell) const;
     // The cells that no panel hides all show the cover picture.
@@ -44,8 +45,9 @@ public:
     [[nodiscard]] RealWindow& Window() const { return *window_; }
     [[nodiscard]] QRect Cell(int cell) const;  // the drawing area, in device pixels
     [[nodiscard]] int Scale() const { return scale_; }
-    // The exit status of the game, which is waited for.
+    // Clicks the exit and waits for the end: the exit status of the game, -1 when it does not end.
     int Leave();
+    int AwaitEnd();
 
 private:
     int scale_;

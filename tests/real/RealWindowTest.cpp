@@ -5,66 +5,14 @@
 #include <QElapsedTimer>
 
 #include "model/CardInfo.h"
-#include "model/Lines.h"
 #include "tests/real/Player.h"
+#include "tests/real/Strategy.h"
 
 namespace {
 
 using namespace std::chrono_literals;
 
 constexpr QPoint kPlay(366, 262), kMenu(366, 216), kHelp(366, 125), kMaster(115, 207), kBackground(345, 80);
-constexpr int kEraser = 36;
-
-CardInfo Card(int kind) {
-    if (kind < 0 || kind >= kEraser) return {};
-    const CardKinds kinds = MakeCardKinds();
-    return kinds[static_cast<std::size_t>(kind / 3)][static_cast<std::size_t>(kind % 3)];
-}
-
-using Board = std::array<int, 16>;
-
-Board LookAtBoard(const Player& player) {
-    Board board{};
-    for (int cell = 0; cell < 16; ++cell) board[static_cast<std::size_t>(cell)] = player.CardAt(cell);
-    return board;
-}
-
-// How many elements a lock of `kind` in `cell` would complete.
-int Shared(const Board& board, int kind, int cell) {
-    int total = 0;
-    for (const LineCells& cells : LinesThrough(static_cast<std::int16_t>(cell))) {
-        LineCards line;
-        for (std::size_t i = 0; i < cells.size(); ++i)
-            line[i] = Card(cells[i] == cell ? kind : board[static_cast<std::size_t>(cells[i])]);
-        total += SharedElements(line);
-    }
-    return total;
-}
-
-// A player who wants the cards to end: clears lines as cheaply as possible, erases what stands in the way.
-int CheapCell(const Board& board, int kind) {
-    int best = -1, bestWorth = -1000;
-    for (int cell = 0; cell < 16; ++cell) {
-        const bool taken = board[static_cast<std::size_t>(cell)] >= 0;
-        if (kind >= kEraser ? !taken && best >= 0 : taken) continue;
-        const int shared = kind >= kEraser ? 0 : Shared(board, kind, cell);
-        int worth = shared == 1 ? 10 : -shared;
-        for (const LineCells& cells : LinesThrough(static_cast<std::int16_t>(cell))) {
-            bool sameColour = kind < kEraser;
-            int neighbours = 0;
-            for (const std::int16_t other : cells) {
-                const int card = board[static_cast<std::size_t>(other)];
-                if (other == cell || card < 0) continue;
-                ++neighbours;
-                sameColour = sameColour && card % 3 == kind % 3;
-            }
-            worth += sameColour ? neighbours : -neighbours;
-        }
-        if (worth > bestWorth) best = cell, bestWorth = worth;
-    }
-    return best;
-}
-
 class RealWindow_ : public testing::TestWithParam<int> {
 protected:
     void SetUp() override { ASSERT_TRUE(player.Window().Found()); }
@@ -99,21 +47,21 @@ TEST_P(RealWindow_, IsPlayedByKeysAndMouseThroughPauseAndHelp) {
     EXPECT_EQ(player.Window().OnScreen().size(), QSize(399, 411) * GetParam());
     player.MoveByKeys(5);
     player.Photograph("first-card");
-    Board board = LookAtBoard(player);
+    SeenBoard board = player.Board();
     const int first = board[5];
     EXPECT_EQ(std::count(board.begin(), board.end(), Player::kNothing), 15);
     LockAt(5, false);
-    EXPECT_EQ(player.CardAt(5), first >= kEraser ? Player::kNothing : first);
+    EXPECT_EQ(player.CardAt(5), first > kLastOrdinaryKind ? Player::kNothing : first);
     LockAt(10, true);
     LockAt(3, true);
-    board = LookAtBoard(player);
+    board = player.Board();
     player.Photograph("playing");
 
     player.ClickCell(3, 3);  // the mouse rests there already
     ASSERT_TRUE(player.Window().Await([&] { return player.IsCovered(); }));
     player.Photograph("paused");
     player.Window().Key("p");
-    ASSERT_TRUE(player.Window().Await([&] { return LookAtBoard(player) == board; }));
+    ASSERT_TRUE(player.Window().Await([&] { return player.Board() == board; }));
 
     ClickAndSee(kHelp);
     StartGame();
@@ -175,10 +123,7 @@ TEST_P(RealWindow_, AtMasterLevelTheTimerLocksAndFillsTheBoardToTheEnd) {
     if (GetParam() != 1) return;
     // Hurries the end by locking at random, as fast as turns come.
     for (int turn = 0; turn < 3000 && !player.IsCovered(); ++turn) {
-        const Board board = LookAtBoard(player);
-        int cell = 0;
-        while (cell < 15 && board[static_cast<std::size_t>(cell)] != Player::kNothing) ++cell;
-        player.MoveByKeys(cell);
+        player.MoveByKeys(FirstFreeCell(player.Board()));
         player.Window().Key("space");
         player.AwaitTurn();
     }
@@ -190,7 +135,7 @@ TEST_P(RealWindow_, ACheapPlayerUsesUpTheCards) {
     if (GetParam() != 1) return;
     StartGame();
     for (int turns = 0; turns < 3000 && !player.IsCovered(); ++turns) {
-        Board board = LookAtBoard(player);
+        SeenBoard board = player.Board();
         const int kind = board[12];
         ASSERT_GE(kind, 0);
         player.MoveByKeys(8);  // the active card hides what lies under it

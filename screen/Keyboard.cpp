@@ -1,0 +1,73 @@
+// The window without a mouse: the board's own keys, and the way of the keyboard through everything else.
+
+#include <QKeyEvent>
+
+#include "screen/frmGame.h"
+
+namespace {
+
+// The virtual-key code of a key; 0 for those the game has no use for.
+std::int16_t VirtualKey(int key) {
+    switch (key) {
+        case Qt::Key_Escape:
+            return 27;
+        case Qt::Key_Space:
+            return kKeyLock;
+        case Qt::Key_Left:
+            return kKeyLeft;
+        case Qt::Key_Up:
+            return kKeyUp;
+        case Qt::Key_Right:
+            return kKeyRight;
+        case Qt::Key_Down:
+            return kKeyDown;
+        case Qt::Key_P:
+            return 80;
+        default:
+            return 0;
+    }
+}
+
+}  // namespace
+
+// While a game is on, its keys are the board's, whatever has the keyboard; Tab and Enter still reach the
+// rest.
+bool frmGame::BoardTakesKeys() const {
+    return fraScreen[0].Visible() && (play != Play::Off || demoRuns_);
+}
+
+void frmGame::keyPressEvent(QKeyEvent* event) {
+    const std::int16_t key = VirtualKey(event->key());
+    if (key == 0 || !BoardTakesKeys()) {
+        if (!AnswerKey(*this, *event)) QWidget::keyPressEvent(event);
+        return;
+    }
+    // A key would put the script of a demonstration out of step with its board; leaving is always possible.
+    if (!demoRuns_ || event->key() == Qt::Key_Escape) Form_KeyDown(key, 0);
+}
+
+// From the menu through the screen that is shown to the links and the corner. A hidden control is passed
+// over.
+void frmGame::OrderControls() {
+    std::vector<QWidget*> order{this, &imgButton[0], &imgButton[1], &imgButton[3], &imgButton[2]};
+    for (Label& level : lblClass) order.push_back(&level);
+    for (PictureBox& slot : picSkin) order.push_back(&slot);
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{&Label14, &imgButton[4], &cmdHelp, &cmdDemo, &Label4, &txtName,
+                                         &cmdOk, &Label17, &imgWebLink, &imgMinimaize, &Image1})
+        order.push_back(control);
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        if (order[i] != &txtName) order[i]->setFocusPolicy(Qt::TabFocus);
+        setTabOrder(order[i - 1], order[i]);
+    }
+    OrderSkinSlots();
+    cmdPrint.setFocusPolicy(Qt::NoFocus);  // it is out of sight
+    imgButton[0].setFocus();
+}
+
+// Only the slots that hold a skin take the keyboard.
+void frmGame::OrderSkinSlots() {
+    for (std::size_t slot = 0; slot < picSkin.size(); ++slot)
+        picSkin[slot].setFocusPolicy(static_cast<std::int16_t>(slot) < SkinCount ? Qt::TabFocus
+                                                                                 : Qt::NoFocus);
+}
