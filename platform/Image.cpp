@@ -10,13 +10,19 @@ void Image::Picture(const ::Picture& picture) {
     update();
 }
 
+const ::Picture& Image::Shown() const {
+    if (IsPressed() && !pressed_.IsEmpty()) return pressed_;
+    return underMouse() && isEnabled() && !hover_.IsEmpty() ? hover_ : picture_;
+}
+
 void Image::paintEvent(QPaintEvent* /*event*/) {
-    const ::Picture& shown = underMouse() && !hover_.IsEmpty() ? hover_ : picture_;
+    const ::Picture& shown = Shown();
     if (shown.IsEmpty()) return;
     QPainter painter(this);
-    QImage image = shown.At(UseDevicePixels(painter));
+    const qreal scale = UseDevicePixels(painter);
+    QImage image = shown.At(scale);
     image.setDevicePixelRatio(1);
-    painter.drawImage(0, 0, image);
+    painter.drawImage(0, IsPressed() && pressed_.IsEmpty() ? qRound(scale) : 0, image);
 }
 
 void Image::enterEvent(QEnterEvent* /*event*/) {

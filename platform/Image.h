@@ -2,17 +2,19 @@
 
 #include <QWidget>
 
-#include "platform/Control.h"
 #include "platform/Picture.h"
+#include "platform/Pressable.h"
 
 // The image control: shows a picture in its natural size, or nothing at all and is then a hot spot.
-class Image : public MouseControl<QWidget> {
+class Image : public Pressable<QWidget> {
 public:
-    Image(QWidget* parent, const Placement& placement) : MouseControl<QWidget>(parent, placement) {}
+    Image(QWidget* parent, const Placement& placement) : Pressable<QWidget>(parent, placement) {}
 
     void Picture(const ::Picture& picture);
     // The picture shown while the mouse is over the image.
     void HoverPicture(const ::Picture& picture) { hover_ = picture; }
+    // The picture shown while the image is pressed; without one the image moves down by a pixel.
+    void PressedPicture(const ::Picture& picture) { pressed_ = picture; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -20,5 +22,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
-    ::Picture picture_, hover_;
+    [[nodiscard]] const ::Picture& Shown() const;
+
+    ::Picture picture_, hover_, pressed_;
 };

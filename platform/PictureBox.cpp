@@ -79,7 +79,7 @@ QImage PictureContents::Render(qreal scale) const {
 }
 
 PictureBox::PictureBox(QWidget* parent, const Placement& placement, int border)
-    : MouseControl<QWidget>(parent, placement), border_(border) {
+    : Pressable<QWidget>(parent, placement), border_(border) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     contents_.size = Inside().size();
 }
@@ -159,5 +159,7 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
     }
     QImage image = contents_.Render(scale);
     image.setDevicePixelRatio(1);
-    painter.drawImage(QPointF(border_ * scale, border_ * scale).toPoint(), image);
+    const int sunk = IsPressed() ? qRound(scale) : 0;
+    if (sunk > 0) painter.fillRect(whole, ToQColor(0x7A8894));  // the shadow of the edge above
+    painter.drawImage(QPointF(border_ * scale, border_ * scale).toPoint() + QPoint(0, sunk), image);
 }

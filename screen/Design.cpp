@@ -77,6 +77,7 @@ constexpr Row kRows[] = {
     // levels and skins
     {"Label6", {120, 195, 1500, 255}, " select level"},
     {"Picture3", {120, 540, 1500, 1995}},
+    {"shpLevel", {315, 90, 1125, 300}},
     {"lblClass", {390, 105, 1050, 270}, "", 0, 1, 0, 360},
     {"Shape1", {180, 120, 105, 135}},
     {"picCurrSkin", {570, 2820, 525, 555}},
@@ -88,7 +89,7 @@ constexpr Row kRows[] = {
     {"Label14", {1740, 3480, 1965, 225}},
 
     // help
-    {"lblHelpText1", {150, 180, 3030, 870}, "Text"},
+    {"lblHelpText1", {150, 180, 2580, 900}, "Text"},
     {"imgMouse", {480, 870, 690, 690}},
     {"imgMouse", {1680, 960, 690, 690}, "", 1, 2, 1170, 0},
     {"lblHelpText2", {330, 1590, 990, 225}, "move card"},

@@ -12,10 +12,20 @@ void Dress(Label& label, Look::Text text, Colour colour, Qt::Alignment alignment
     label.setAlignment(alignment);
 }
 
-constexpr int kMostLetters = 64;  // of a name
+constexpr int kMostLetters = 64;     // of a name
+constexpr qreal kCloseSetting = 95;  // percent: the highest score there can be fits its column
 
-void HandCursor(QWidget& control) {
+template <class Control>
+void Clickable(Control& control) {
     control.setCursor(Qt::PointingHandCursor);
+    control.ShowsPress(true);
+}
+
+void Link(Label& label, const QString& text) {
+    Dress(label, Look::Text::Small, Look::kLink);
+    label.Caption(text);
+    label.IsLink(true);
+    Clickable(label);
 }
 
 }  // namespace
@@ -38,16 +48,21 @@ void frmGame::DressWindow() {
     Image1.setToolTip(QStringLiteral("Exit "));
     imgMinimaize.Picture(WindowArt(QStringLiteral("minimise")));
     imgMinimaize.HoverPicture(WindowArt(QStringLiteral("minimise-hover")));
+    for (Image* image : {&Image1, &imgMinimaize}) image->ShowsPress(true);
     imgWebLink.Picture(WindowArt(QStringLiteral("weblink")));
+    imgWebLink.HoverPicture(WindowArt(QStringLiteral("weblink-hover")));
+    Clickable(imgWebLink);
     Image2.Picture(WindowArt(QStringLiteral("menubar")));
     imgButton[3].setToolTip(QStringLiteral("High Score "));
-    for (Image& button : imgButton) HandCursor(button);
-    for (QWidget* link : {static_cast<QWidget*>(&imgWebLink), static_cast<QWidget*>(&Label17),
-                          static_cast<QWidget*>(&Label14), static_cast<QWidget*>(&Label4)})
-        HandCursor(*link);
+    for (Image& button : imgButton) {
+        Clickable(button);
+        button.HoverPicture(WindowArt(QStringLiteral("key-hover")));
+        button.PressedPicture(WindowArt(QStringLiteral("key-pressed")));
+    }
+    imgButton[4].HoverPicture(WindowArt(QStringLiteral("more-hover")));
+    imgButton[4].PressedPicture(WindowArt(QStringLiteral("more-pressed")));
     Dress(Label16, Text::Small, Look::kLevel);
-    Dress(Label17, Text::Small, Look::kLink);
-    Label17.Caption(Links::kProductText);
+    Link(Label17, Links::kProductText);
     constexpr const char* kCaptions[] = {"play", "menu", "help", "score", "more"};
     for (std::size_t i = 0; i < lblCaption.size(); ++i) {
         lblCaption[i].Caption(QLatin1String(kCaptions[i]));
@@ -76,25 +91,25 @@ void frmGame::DressSkinScreen() {
     for (std::size_t i = 0; i < lblClass.size(); ++i) {
         lblClass[i].Caption(QLatin1String(kLevelNames[i]));
         Dress(lblClass[i], Text::Heading, Look::kLevel, Qt::AlignLeft | Qt::AlignVCenter);
-        HandCursor(lblClass[i]);
+        Clickable(lblClass[i]);
     }
+    shpLevel.Look(QColor(0xC9, 0xA2, 0x4B), QColor(0xFD, 0xF9, 0xEE), 4);
     Shape1.Look(QColor(0x8A, 0x66, 0x1E), QColor(0xC9, 0xA2, 0x4B), 2);
     for (Frame* well : {&Picture3, &Picture1}) well->BackColor(Look::kWell);
     for (PictureBox& slot : picSkin) {
         slot.BackColor(Look::kEmptySlot);
-        HandCursor(slot);
+        Clickable(slot);
     }
     picCurrSkin.BackColor(Look::kEmptySlot);
     for (Label* heading : {&Label6, &Label7}) Dress(*heading, Text::Heading, Look::kLevel);
     Dress(lblSkinName, Text::Normal, Look::kLevel);
     Dress(Label13, Text::Small, Look::kLevel);
-    Dress(Label14, Text::Small, Look::kLink);
-    Label14.Caption(Links::kHomeText);
+    Link(Label14, Links::kHomeText);
 }
 
 void frmGame::DressHelpScreen() {
     using Look::Text;
-    Dress(lblHelpText1, Text::Fine, Look::kLevel, Qt::AlignLeft | Qt::AlignTop);
+    Dress(lblHelpText1, Text::Small, Look::kLevel, Qt::AlignLeft | Qt::AlignTop);
     lblHelpText1.setWordWrap(true);
     imgMouse[0].Picture(WindowArt(QStringLiteral("mouse-move")));
     imgMouse[1].Picture(WindowArt(QStringLiteral("mouse-left")));
@@ -111,16 +126,18 @@ void frmGame::DressScoreScreen() {
     Dress(lblCName, Text::Heading, Look::kLevel, left);
     Dress(lblCDate, Text::Heading, Look::kLevel, left);
     Dress(lblCHighScore, Text::Heading, Look::kLevel, right);
+    QFont close = Look::Font(Text::Normal);
+    close.setLetterSpacing(QFont::PercentageSpacing, kCloseSetting);
     for (std::size_t row = 0; row < lblName.size(); ++row) {
         Dress(lblName[row], Text::Normal, Look::kLevel, left);
         Dress(lblDate[row], Text::Normal, Look::kLevel, left);
         Dress(lblHighScore[row], Text::Normal, Look::kLevel, right);
+        lblHighScore[row].setFont(close);
     }
     for (Shape* rule : {&Line2, &Line4, &Line5, &Line6, &Line7})
         rule->Look(QColor(), QColor(0xB8, 0x9A, 0x5A));
     Dress(Label15, Text::Small, Look::kLevel);
-    Dress(Label4, Text::Small, Look::kLink);
-    Label4.Caption(Links::kHomeText);
+    Link(Label4, Links::kHomeText);
 }
 
 // Light grey in a brass frame between dark edges.

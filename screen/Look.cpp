@@ -16,18 +16,16 @@ struct Size {
 
 constexpr Size SizeOf(Text text) {
     switch (text) {
-        case Text::Fine:
-            return {10, QFont::Normal};
         case Text::Small:
             return {11, QFont::Normal};
         case Text::Normal:
-            return {12, QFont::Normal};
+            return {13, QFont::Normal};
         case Text::Heading:
             return {13, QFont::DemiBold};
         case Text::Number:
             return {23, QFont::Bold};
     }
-    return {12, QFont::Normal};
+    return {13, QFont::Normal};
 }
 
 // Light stone for what holds text, the grey-blue of the table for what can be pressed.

@@ -20,8 +20,9 @@ inline constexpr Colour kNumber = 0xA8DCF4;     // score and cards left: pale br
 inline constexpr Colour kWell = 0xC4D6DC;       // the recesses that hold levels and skins
 inline constexpr Colour kEmptySlot = 0xD6E4EA;  // a slot without a skin
 
-enum class Text { Fine, Small, Normal, Heading, Number };
-// Sizes are in logical pixels; figures are tabular.
+// Three sizes: a heading is as large as other text, but heavier. Sizes are in logical pixels; figures are
+// tabular.
+enum class Text { Small, Normal, Heading, Number };
 [[nodiscard]] QFont Font(Text text);
 
 // Style, palette and font of the application. Called once, before the first window.

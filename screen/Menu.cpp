@@ -122,6 +122,7 @@ void frmGame::lblClass_Click(std::int16_t Index) {
     const auto level = static_cast<std::size_t>(Index);
     lblClass[static_cast<std::size_t>(CurrentLevel)].ForeColor(Look::kLevel);
     lblClass[level].ForeColor(kRed);
+    shpLevel.Top(lblClass[level].Top() - kTwipsPerPixel);
     lblLevelName.Caption(lblClass[level].Caption());
     lblLevelBack.Caption(lblClass[level].Caption());
     CurrentLevel = Index;

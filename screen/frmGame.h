@@ -157,6 +157,7 @@ public:
 
     Label Label6{&fraScreen[1], Design("Label6")}, Label7{&fraScreen[1], Design("Label7")};
     Frame Picture3{&fraScreen[1], Design("Picture3")}, Picture1{&fraScreen[1], Design("Picture1")};
+    Shape shpLevel{&Picture3, Design("shpLevel")};  // behind the chosen level
     std::array<Label, 5> lblClass = ControlArray<Label, 5>("lblClass", Inside(Picture3));
     Shape Shape1{&Picture3, Design("Shape1")};
     std::array<PictureBox, 12> picSkin = ControlArray<PictureBox, 12>("picSkin", Inside(Picture1));

@@ -2,6 +2,8 @@
 
 #include <QFile>
 #include <QKeyEvent>
+#include <QScrollBar>
+#include <QTextBlock>
 
 #include "screen/Look.h"
 #include "shell/mdlSound.h"
@@ -10,6 +12,7 @@ namespace {
 
 constexpr TwipsRect kWindow{0, 0, 4710, 5820};
 constexpr TwipsRect kText{150, 150, 4410, 4980};
+constexpr qreal kPadding = 9;  // between the text and the edge of its sheet
 // The most of the file that is shown: far more than a manual, and little enough to lay out at once.
 constexpr qint64 kMostBytes = qint64{512} * 1024;
 
@@ -20,6 +23,19 @@ QString RulesText(const QString& path) {
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     if (!file.atEnd()) text += QStringLiteral("\n[...]");
     return text;
+}
+
+// Lines in capitals are headings.
+void DressHeadings(QTextDocument& document) {
+    QTextCharFormat heading;
+    heading.setFontWeight(QFont::DemiBold);
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        const QString line = block.text();
+        if (line.isEmpty() || line != line.toUpper() || line == line.toLower()) continue;
+        QTextCursor cursor(block);
+        cursor.select(QTextCursor::BlockUnderCursor);
+        cursor.mergeCharFormat(heading);
+    }
 }
 
 }  // namespace
@@ -38,10 +54,7 @@ frmInfo::frmInfo(QWidget* owner, const ProgramFolder& folder)
     Text1.setReadOnly(true);
     // A reader moves through the text with the keys, and sees where.
     Text1.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    shpArea.Look(QColor(0xC9, 0xA2, 0x4B), QColor(0x1B, 0x2A, 0x4E), 6);
-    lblCaption.setAlignment(Qt::AlignCenter);
-    lblCaption.ForeColor(kWhite);
-    imgButton.setCursor(Qt::PointingHandCursor);
+    DressControls();
     imgButton.onMouseMove = [this](const MouseInput& in) {
         imgButton_MouseMove(in.button, in.shift, in.x, in.y);
     };
@@ -60,6 +73,34 @@ frmInfo::frmInfo(QWidget* owner, const ProgramFolder& folder)
 
 void frmInfo::Form_Load(const ProgramFolder& folder) {
     Text1.setPlainText(RulesText(folder.Path(QStringLiteral("\\Res\\Tesselor rules.txt"))));
+    DressHeadings(*Text1.document());
+}
+
+void frmInfo::DressControls() {
+    Background.Picture(WindowArt(QStringLiteral("sheet")));
+    Background.setAttribute(Qt::WA_TransparentForMouseEvents);
+    DressText();
+    shpArea.Look(QColor(0xC9, 0xA2, 0x4B), QColor(0x1B, 0x2A, 0x4E), 6);
+    lblCaption.setFont(Look::Font(Look::Text::Heading));
+    lblCaption.setAlignment(Qt::AlignCenter);
+    lblCaption.ForeColor(kWhite);
+    imgButton.setCursor(Qt::PointingHandCursor);
+    imgButton.ShowsPress(true);
+    imgButton.HoverPicture(WindowArt(QStringLiteral("ok-hover")));
+    imgButton.PressedPicture(WindowArt(QStringLiteral("ok-pressed")));
+}
+
+// An ivory sheet, and beside it a scroll bar of brass on stone.
+void frmInfo::DressText() {
+    Text1.setFrameShape(QFrame::NoFrame);
+    Text1.document()->setDocumentMargin(kPadding);
+    QPalette sheet = Text1.palette();
+    sheet.setColor(QPalette::Base, QColor(0xFB, 0xF6, 0xE9));
+    Text1.setPalette(sheet);
+    QPalette brass = sheet;
+    brass.setColor(QPalette::Window, QColor(0xD9, 0xCF, 0xB6));
+    brass.setColor(QPalette::Button, QColor(0xDC, 0xC0, 0x7C));
+    Text1.verticalScrollBar()->setPalette(brass);
 }
 
 void frmInfo::Form_MouseMove(std::int16_t, std::int16_t, float, float) {

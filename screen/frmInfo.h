@@ -21,6 +21,7 @@ public:
     void imgButton_Click();
     void Form_Click() {}
 
+    Image Background{this, {QStringLiteral("Background"), {0, 0, 4710, 5820}, {}}};
     QPlainTextEdit Text1{this};
     Shape shpArea;
     Label lblCaption;
@@ -30,4 +31,8 @@ public:
 protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void DressControls();
+    void DressText();
 };

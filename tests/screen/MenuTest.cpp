@@ -61,6 +61,8 @@ TEST(Menu, ALevelChangesWhatIsShownAndTheNextLockTime) {
     form.lblClass_Click(3);
     EXPECT_EQ(form.lblClass[0].ForeColor(), Look::kLevel);
     EXPECT_EQ(form.lblClass[3].ForeColor(), kRed);
+    EXPECT_TRUE(form.shpLevel.geometry().contains(form.lblClass[3].geometry().center()));
+    EXPECT_FALSE(form.shpLevel.geometry().intersects(form.Shape1.geometry()));
     EXPECT_EQ(form.lblLevelName.Caption(), "expert");
     EXPECT_EQ(game.Model().CurrentInterval(), 3800);
     EXPECT_TRUE(form.shpTime.Visible() && form.prbTime.Visible());
