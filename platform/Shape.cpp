@@ -23,6 +23,8 @@ void Shape::paintEvent(QPaintEvent* /*event*/) {
     painter.setRenderHint(QPainter::Antialiasing, radius_ > 0);
     painter.setPen(line > 0 ? QPen(outline_, line, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin) : Qt::NoPen);
     painter.setBrush(inside_.isValid() ? QBrush(inside_) : Qt::NoBrush);
-    const QRectF area(QPointF(line / 2, line / 2), QSizeF((size * scale).toSize()) - QSizeF(line, line));
+    const QRectF area(
+        QPointF(line / 2, line / 2),
+        QSizeF(qFloor(size.width() * scale), qFloor(size.height() * scale)) - QSizeF(line, line));
     painter.drawRoundedRect(area, radius_ * scale, radius_ * scale);
 }

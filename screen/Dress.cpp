@@ -76,6 +76,8 @@ void frmGame::DressBoard() {
     Dress(lblScore, Text::Number, Look::kNumber, Qt::AlignRight | Qt::AlignVCenter);
     Dress(lblCardsLeft, Text::Number, Look::kNumber);
     Picture4.BackColor(Look::kTray);
+    // The sheets leave a strip of the tray free at two sides: it goes with the floor around it.
+    Picture4.DrawFilledBox({0, 0}, {Picture4.width(), Picture4.height()}, Look::kFloor);
     picPreview.BackColor(Look::kTray);
     Dress(lblNextCard, Text::Small, kWhite);
     fraScreen[0].BackColor(Look::kTray);
@@ -102,7 +104,7 @@ void frmGame::DressSkinScreen() {
     }
     picCurrSkin.BackColor(Look::kEmptySlot);
     for (Label* heading : {&Label6, &Label7}) Dress(*heading, Text::Heading, Look::kLevel);
-    Dress(lblSkinName, Text::Normal, Look::kLevel);
+    Dress(lblSkinName, Text::Small, Look::kLevel);
     Dress(Label13, Text::Small, Look::kLevel);
     Link(Label14, Links::kHomeText);
 }

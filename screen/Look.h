@@ -17,6 +17,7 @@ inline constexpr Colour kTray = 0x808080;        // behind the board and the pre
 inline constexpr Colour kPanel = 0xE0E0E0;       // the name entry
 // The house's own.
 inline constexpr Colour kNumber = 0xA8DCF4;     // score and cards left: pale brass on the stone
+inline constexpr Colour kFloor = 0x2E160D;      // of the recess that holds the screens
 inline constexpr Colour kWell = 0xC4D6DC;       // the recesses that hold levels and skins
 inline constexpr Colour kEmptySlot = 0xD6E4EA;  // a slot without a skin
 
