@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QTest>
+
 #include "screen/Look.h"
 #include "tests/support/GameWindow.h"
 
@@ -68,6 +70,20 @@ TEST(Menu, ALevelChangesWhatIsShownAndTheNextLockTime) {
     EXPECT_TRUE(form.shpTime.Visible() && form.prbTime.Visible());
     form.lblClass_Click(0);
     EXPECT_FALSE(form.shpTime.Visible() || form.prbTime.Visible());
+}
+
+TEST(Menu, WhateverAnswersAClickShowsThatItIsPressed) {
+    GameWindow game;
+    frmGame& form = *game.form;
+    form.FinishSkinSlots();
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             &form.Image1, &form.imgMinimaize, &form.imgWebLink, &form.Label4, &form.Label14, &form.Label17,
+             &form.imgButton[kPlay], &form.imgButton[kMore], &form.lblClass[4], &form.picSkin[0]}) {
+        SCOPED_TRACE(control->objectName().toStdString());
+        const QImage before = control->grab().toImage();
+        QTest::mousePress(control, Qt::LeftButton);
+        EXPECT_NE(control->grab().toImage(), before);
+    }
 }
 
 TEST(Menu, APressedButtonIsSeenUntilTheRelease) {

@@ -49,7 +49,9 @@ public:
         window_->Await([] { return false; }, time);
     }
     void MoveMouse(QPoint at) const { window_->MoveMouse(InDevice(at)), Settle(); }
-    void Click(QPoint at) const { window_->Click(InDevice(at)), Settle(); }
+    void Click(QPoint at, std::chrono::milliseconds time = 300ms) const {
+        window_->Click(InDevice(at)), Settle(time);
+    }
     void Lock(int cell) const { MoveMouse(Cell(cell)), Click(Cell(cell)), Settle(600ms); }
     [[nodiscard]] RealWindow& Window() const { return *window_; }
     [[nodiscard]] bool AsksForName() const {
@@ -134,8 +136,7 @@ void ShootBoard(const Game& game) {
 void ShootNameEntry(const Game& game) {
     for (int lock = 0; lock < 400 && !game.AsksForName(); ++lock) {
         if (lock % 80 == 0) game.Click(kPlay);
-        game.MoveMouse(Cell(lock % 16));
-        game.Click(Cell(lock % 16));
+        game.Click(Cell(lock % 16), 150ms);
     }
     game.Settle(1500ms);
     if (game.AsksForName()) game.Shoot("name-entry");
