@@ -3,13 +3,7 @@
 #include "tests/progbar/Fakes.h"
 
 TEST(ProgBarCaption, StandsInTheMiddle) {
-    struct Case {
-        const char* what;
-        const char* message;
-        ProgBarState bar;
-        const char* printed;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, ProgBarState, std::string> cases[] = {
         {"negative numbers", "", {.Max = -1, .Value = -5, .ShowValue = true}, "40,45 -5/-1;"},
         {"message first", "Go", {.ShowPercent = true, .ShowMessage = true}, "39,44 Go 0%;"},
         {"an empty message brings no blank", "", {.ShowMessage = true, .ShowValue = true}, "40,45 0/100;"},
@@ -18,12 +12,10 @@ TEST(ProgBarCaption, StandsInTheMiddle) {
         {"down", "", {.Percent = 45, .ShowPercent = true, .VerticalText = true}, "48,34 4;48,44 5;47,54 %;"},
         {"2 bytes", "%\xC3\xA9", {.ShowMessage = true, .VerticalText = true}, "47,39 %;48,51 \xC3\xA9;"},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (auto [what, message, bar, printed] : cases) {
         FakeHost host(13, 263);
-        ProgBarState bar = c.bar;
-        bar.Message = c.message;
+        bar.Message = message;
         DrawCaption(bar, host);
-        EXPECT_EQ(host.log, "scale;" + std::string(c.printed) + "pixels;");
+        EXPECT_EQ(host.log, "scale;" + printed + "pixels;") << what;
     }
 }

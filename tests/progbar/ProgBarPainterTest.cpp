@@ -29,57 +29,47 @@ static std::string Runs(FakeHost& host, int length) {
 }
 
 TEST(ProgBarPainter, CoversBothSidesOfTheFillLine) {
-    struct Case {
-        const char* what;
-        std::int32_t style, direction;
-        int length;
-        std::array<const char*, 4> runs;  // at 0, 50, 99 and 100 percent
-        std::int32_t bits = 24;
-    };
-    const Case cases[] = {
-        {"solid right", 1, 3, 200, {"200-", "100#100-", "198#2-", "200#"}},
-        {"solid left", 1, 2, 200, {"200-", "100-100#", "2-198#", "200#"}},
-        {"solid down, half ends in a tie", 1, 1, 263, {"263-", "132#131-", "260#3-", "263#"}},
-        {"solid up", 1, 0, 263, {"263-", "132-131#", "3-260#", "263#"}},
-        {"solid, no direction", 1, 77, 200, {"200-", "200-", "200-", "200#"}},
-        {"the band at the line is left out", 0, 3, 200, {"200-", "99#1.100-", "197#1.2-", "199#1e"}},
-        {"bands left", 0, 2, 200, {"200-", "100-1.99#", "2-1.197#", "1e199#"}},
-        {"bands down, the tie is past the line", 0, 1, 263, {"263-", "130#2.131-", "260#3-", "262#1e"}},
-        {"bands up, the tie is short of it", 0, 0, 263, {"263-", "132-131#", "3-260#", "1e262#"}},
-        {"bands, no direction", 0, -1, 200, {"200-", "200-", "200-", "200e"}},
-        {"unknown style", 9, 3, 200, {"200-", "99#1.100-", "197#1.2-", "199#1e"}},
+    // Style, direction, length; the runs at 0, 50, 99 and 100 percent; the bits of a pixel.
+    const std::tuple<const char*, int, int, int, std::array<std::string, 4>, int> cases[] = {
+        {"solid right", 1, 3, 200, {"200-", "100#100-", "198#2-", "200#"}, 24},
+        {"solid left", 1, 2, 200, {"200-", "100-100#", "2-198#", "200#"}, 24},
+        {"solid down, half ends in a tie", 1, 1, 263, {"263-", "132#131-", "260#3-", "263#"}, 24},
+        {"solid up", 1, 0, 263, {"263-", "132-131#", "3-260#", "263#"}, 24},
+        {"solid, no direction", 1, 77, 200, {"200-", "200-", "200-", "200#"}, 24},
+        {"the band at the line is left out", 0, 3, 200, {"200-", "99#1.100-", "197#1.2-", "199#1e"}, 24},
+        {"bands left", 0, 2, 200, {"200-", "100-1.99#", "2-1.197#", "1e199#"}, 24},
+        {"bands down, the tie is past the line", 0, 1, 263, {"263-", "130#2.131-", "260#3-", "262#1e"}, 24},
+        {"bands up, the tie is short of it", 0, 0, 263, {"263-", "132-131#", "3-260#", "1e262#"}, 24},
+        {"bands, no direction", 0, -1, 200, {"200-", "200-", "200-", "200e"}, 24},
+        {"unknown style", 9, 3, 200, {"200-", "99#1.100-", "197#1.2-", "199#1e"}, 24},
         {"32 bands, the last alone at the line", 0, 3, 200, {"200-", "94#6.100-", "194#4e2-", "194#6e"}, 15},
-        {"many bands round to the end", 0, 3, 13, {"13-", "6#7-", "12#1.", "12#1."}},
-        {"14 / 100 * 100 > 14", 0, 3, 14, {"14-", "7#7-", "13#1.", "14#"}},
+        {"many bands round to the end", 0, 3, 13, {"13-", "6#7-", "12#1.", "12#1."}, 24},
+        {"14 / 100 * 100 > 14", 0, 3, 14, {"14-", "7#7-", "13#1.", "14#"}, 24},
     };
-    for (const Case& c : cases)
-        for (std::size_t i = 0; i < c.runs.size(); ++i) {
-            const bool down = c.direction == kBottomToTop || c.direction == kTopToBottom;
-            FakeHost host(down ? 5 : c.length, down ? c.length : 5, c.bits);
-            ProgBarPainter().Paint(Bar(c.style, c.direction, std::array<std::uint8_t, 4>{0, 50, 99, 100}[i]),
-                                   host);
-            EXPECT_EQ(Runs(host, c.length), c.runs[i]) << c.what;
+    constexpr std::uint8_t percents[] = {0, 50, 99, 100};
+    for (const auto& [what, style, direction, length, runs, bits] : cases)
+        for (std::size_t i = 0; i < runs.size(); ++i) {
+            const bool down = direction == kBottomToTop || direction == kTopToBottom;
+            FakeHost host(down ? 5 : length, down ? length : 5, bits);
+            ProgBarPainter().Paint(Bar(style, direction, percents[i]), host);
+            EXPECT_EQ(Runs(host, length), runs[i]) << what;
             EXPECT_EQ(host.log, "paint;") << "without a caption the scale is left alone";
         }
 }
 
 TEST(ProgBarPainter, GradesTowardsTheEndColour) {
-    struct Case {
-        Colour start, end;
-        std::int32_t bits;
-        std::map<std::size_t, Colour> brushes;  // by band; the one after the last is the end band's
-    };
-    const Case cases[] = {
+    // Start, end and bits; the brushes by band, of which the one after the last is the end band's.
+    const std::tuple<Colour, Colour, std::int32_t, std::map<std::size_t, Colour>> cases[] = {
         {0x0000FF, 0, 24, {{0, 255}, {1, 254}, {127, 128}, {128, 127}, {255, 0}, {256, 0}}},
         {0xFF0000, 0xFFFF, 8, {{0, 0xFF0000}, {1, 0xFB0303}, {32, 0x7F7F7F}, {63, 0x3FBFB}, {64, 0xFFFF}}},
         {0x7F000102, -1, 15, {{0, 0x102}, {32, 0xFFFFFF}}}};  // the high byte is no colour
-    for (const Case& c : cases) {
-        FakeHost host(200, 1, c.bits);
+    for (const auto& [start, end, bits, brushes] : cases) {
+        FakeHost host(200, 1, bits);
         ProgBarState bar = Bar(kGradientBands, kLeftToRight, 200);  // beyond full: no band is left out
-        bar.BarStartColour = c.start, bar.BarEndColour = c.end;
+        bar.BarStartColour = start, bar.BarEndColour = end;
         ProgBarPainter().Paint(bar, host);
-        ASSERT_EQ(host.brushes.size(), c.brushes.rbegin()->first + 1);
-        for (const auto& [band, colour] : c.brushes) EXPECT_EQ(host.brushes[band], colour) << band;
+        ASSERT_EQ(host.brushes.size(), brushes.rbegin()->first + 1);
+        for (const auto& [band, colour] : brushes) EXPECT_EQ(host.brushes[band], colour) << band;
     }
 }
 
