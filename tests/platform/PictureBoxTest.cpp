@@ -6,36 +6,21 @@
 
 #include "platform/PictureSheet.h"
 
-namespace {
-
-// The pixels of `image` in `colour` that lie in the row through `y`, as a string: '#' for colour, '.' else.
-std::string Row(const QImage& image, int y, QRgb colour) {
-    std::string row;
-    for (int x = 0; x < image.width(); ++x) row += image.pixel(x, y) == colour ? '#' : '.';
-    return row;
-}
-
 TEST(PictureContents, OutlinesLieAboutTheirEdgesAtEveryScale) {
-    constexpr QRgb kPen = 0xFFFF0000;
-    struct Case {
-        const char* what;
-        int width;
-        qreal scale;
-        std::string across;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, int, qreal, std::string> cases[] = {
         {"width 3 about (2, 2) to (8, 8)", 3, 1, ".###...###.."},
         {"width 2 about the same edges", 2, 1, ".##....##..."},
         {"twice as large", 3, 2, "..######......######...."},
         {"one and a half: whole device pixels", 3, 1.5, "..#####...#####..."},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, width, scale, expected] : cases) {
         PictureContents contents{{12, 12}, kWhite, {}, {}};
-        contents.drawings.emplace_back(DrawnBox{QRect(2, 2, 6, 6), c.width, kRed, DrawMode::CopyPen});
-        const QImage image = contents.Render(c.scale);
-        const std::string across = Row(image, qRound(5.4 * c.scale), kPen);
-        EXPECT_EQ(across, c.across);
+        contents.drawings.emplace_back(DrawnBox{QRect(2, 2, 6, 6), width, kRed, DrawMode::CopyPen});
+        const QImage image = contents.Render(scale);
+        std::string across;
+        for (int x = 0; x < image.width(); ++x)
+            across += image.pixelColor(x, qRound(5.4 * scale)) == QColor(Qt::red) ? '#' : '.';
+        EXPECT_EQ(across, expected) << what;
     }
 }
 
@@ -79,17 +64,15 @@ TEST(PictureSheet, CutsAnySizeIntoFittedCells) {
     }
 }
 
-// The sentence names the file and what is wrong with it.
 TEST(PictureSheet, SaysWhyAFileIsNoSheet) {
     QTemporaryDir folder;
-    QImage(200, 300, QImage::Format_RGB32).save(folder.filePath("stone.png"));
+    QImage(300, 200, QImage::Format_RGB32).save(folder.filePath("stone.png"));
+    QImage(200, 260, QImage::Format_RGB32).save(folder.filePath("brick.png"));
     QImage(4002, 4004, QImage::Format_Mono).save(folder.filePath("wall.png"));
     EXPECT_EQ(WhyNotASheet(folder.filePath("stone.png")),
-              "\"stone.png\" is 200 x 300 pixels; a skin is 3 cells wide and 13 high, at least 3 x 13 "
-              "pixels: its width "
-              "divides by 3 and its height by 13.");
+              "\"stone.png\" is 300 x 200 pixels; a skin is 3 cells wide and 13 high, at least 3 x 13 "
+              "pixels: its width divides by 3 and its height by 13.");
+    EXPECT_TRUE(WhyNotASheet(folder.filePath("brick.png")).startsWith("\"brick.png\" is 200 x 260 pixels"));
     EXPECT_TRUE(WhyNotASheet(folder.filePath("wall.png")).startsWith("\"wall.png\" is 4002 x 4004 pixels"));
     EXPECT_EQ(WhyNotASheet(folder.filePath("none.png")), "\"none.png\" is not there.");
 }
-
-}  // namespace

@@ -4,17 +4,10 @@
 
 #include "tests/support/VirtualTime.h"
 
-namespace {
-
 using namespace std::chrono_literals;
 
 TEST(Timer, TicksByItsRules) {
-    struct Case {
-        const char* what;
-        std::function<void(Timer&, VirtualTime&)> run;
-        int ticks;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, std::function<void(Timer&, VirtualTime&)>, int> cases[] = {
         {"disabled: never", [](Timer&, VirtualTime& t) { t.Pass(1h); }, 0},
         {"every interval",
          [](Timer& a, VirtualTime& t) { a.Enabled(true), t.Pass(99ms), t.Pass(1ms), t.Pass(100ms); }, 2},
@@ -32,15 +25,12 @@ TEST(Timer, TicksByItsRules) {
         {"several missed: once, late",
          [](Timer& a, VirtualTime& t) { a.Enabled(true), t.Wait(1s), t.Pass(0ms); }, 1},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, run, expected] : cases) {
         VirtualTime time;
         int ticks = 0;
-        Timer timer(
-            time, [&ticks] { ++ticks; }, 100);
-        c.run(timer, time);
-        EXPECT_EQ(ticks, c.ticks);
+        const auto tick = [&ticks] { ++ticks; };
+        Timer timer(time, tick, 100);
+        run(timer, time);
+        EXPECT_EQ(ticks, expected) << what;
     }
 }
-
-}  // namespace
