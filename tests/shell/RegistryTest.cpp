@@ -28,41 +28,39 @@ TEST(Registry, GivesTheStoredStringOrTheDefault) {
         "\"cut\"=\"before%0000after\"\n"
         "\"a=b%0022\"=\"=\"\n"
         "\"open\"=\"12\n"
-        "\"bad\"=\"100%\"\n"
+        "\"bad\"=\"100%12\"\n"
+        "\"quoted\"=\"a\"b\"\n"
         "\"twice\"=\"first\"\n\"TWICE\"=\"last\"\n"
         "[Software\\Half\n\"0\"=\"lost\"\n");
-    struct Case {
-        const char *what, *path, *name, *expected;
-    };
-    const Case cases[] = {
-        {"a string", "Software\\Tesselor\\Score", "0", "12,345"},
-        {"a path in another case", "SOFTWARE\\tesselor\\score", "0", "12,345"},
-        {"a name in another case", "Software\\Tesselor\\Score", "EMPTY", ""},
-        {"blanks outside the quotes", "Software\\Tesselor\\Score", "spaced", " a b "},
-        {"up to a zero character", "Software\\Tesselor\\Score", "cut", "before"},
-        {"a name with signs in it", "Software\\Tesselor\\Score", "a=b\"", "="},
-        {"twice: the last counts", "Software\\Tesselor\\Score", "twice", "last"},
-        {"a number", "Software\\Tesselor\\Score", "number", "default"},
-        {"never written", "Software\\Tesselor\\Score", "1", "default"},
-        {"no such key", "Software\\Tesselor\\Scores", "0", "default"},
+    const std::tuple<const char*, QString, QString, QString> cases[] = {
+        {"a string", kKey, "0", "12,345"},
+        {"a path in another case", kKey.toUpper(), "0", "12,345"},
+        {"a name in another case", kKey, "EMPTY", ""},
+        {"blanks outside the quotes", kKey, "spaced", " a b "},
+        {"up to a zero character", kKey, "cut", "before"},
+        {"a name with signs in it", kKey, "a=b\"", "="},
+        {"twice: the last counts", kKey, "twice", "last"},
+        {"a number", kKey, "number", "default"},
+        {"never written", kKey, "1", "default"},
+        {"no such key", kKey + "s", "0", "default"},
         {"a key above", "Software\\Tesselor", "0", "default"},
-        {"no closing quote", "Software\\Tesselor\\Score", "open", "default"},
-        {"a half escape", "Software\\Tesselor\\Score", "bad", "default"},
+        {"no closing quote", kKey, "open", "default"},
+        {"a half escape", kKey, "bad", "default"},
+        {"a bare quote", kKey, "quoted", "default"},
         {"under a damaged key", "Software\\Half", "0", "default"},
     };
-    for (const Case& c : cases) EXPECT_EQ(Read(c.path, c.name), c.expected) << c.what;
+    for (const auto& [what, path, name, expected] : cases) EXPECT_EQ(Read(path, name), expected) << what;
     EXPECT_EQ(mdlRegistry::ReadRegString(kMachine, kKey, "0", "default"), "default");
 }
 
 TEST(Registry, GivesBackWhatWasWrittenWhateverItHolds) {
-    const QString texts[] = {"",
-                             "12,345",
-                             " blanks ",
-                             "\"quoted\" \\ 100%",
-                             "[a]=b;c",
-                             "two\r\nlines\t",
-                             QString::fromUtf8("Жанна 名前 🂡"),
-                             QString(QChar(0xD83D)) + "half"};
+    const QStringList texts{"",
+                            " blanks ",
+                            "\"quoted\" \\ 100%",
+                            "[a]=b;c",
+                            "two\r\nlines\t",
+                            "Жанна 名前 🂡",
+                            QChar(0xD83D) + QString("half")};
     for (const QString& text : texts) {
         SCOPED_TRACE(text.toStdString());
         const StoreFile store;
