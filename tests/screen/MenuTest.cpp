@@ -10,31 +10,23 @@ namespace {
 constexpr std::int16_t kPlay = 0, kMenu = 1, kHelp = 2, kScore = 3, kMore = 4;
 
 TEST(Menu, LightsTheCaptionOfTheScreenShown) {
-    struct Case {
-        const char* what;
-        std::vector<std::int16_t> clicks;
-        int lit;
-        int shown;
-    };
-    const Case cases[] = {
-        {"play", {kPlay}, kPlay, 0},
+    const std::tuple<const char*, std::vector<std::int16_t>, int, int> cases[] = {
+        {"the same twice", {kPlay, kPlay}, kPlay, 0},
         {"menu", {kMenu}, kMenu, 1},
         {"help again", {kHelp}, kHelp, 2},
         {"high scores light nothing", {kMenu, kScore}, -1, 3},
         {"the remembered one stays dark", {kMenu, kScore, kMenu}, -1, 1},
         {"another one lights up after the scores", {kMenu, kScore, kHelp}, kHelp, 2},
         {"more shows the help screen", {kMore}, kMore, 2},
-        {"the same twice", {kPlay, kPlay}, kPlay, 0},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+    for (const auto& [what, clicks, lit, shown] : cases) {
+        SCOPED_TRACE(what);
         GameWindow game;
-        for (const std::int16_t click : c.clicks) game.form->imgButton_Click(click);
+        for (const std::int16_t click : clicks) game.form->imgButton_Click(click);
         for (int i = 0; i < 5; ++i)
             EXPECT_EQ(game.form->lblCaption[std::size_t(i)].ForeColor(),
-                      i == c.lit ? Look::kLitCaption : kWhite);
-        for (int i = 0; i < 4; ++i) EXPECT_EQ(game.form->fraScreen[std::size_t(i)].Visible(), i == c.shown);
-        EXPECT_TRUE(game.form->StopDemo);
+                      i == lit ? Look::kLitCaption : kWhite);
+        for (int i = 0; i < 4; ++i) EXPECT_EQ(game.form->fraScreen[std::size_t(i)].Visible(), i == shown);
     }
 }
 
@@ -100,6 +92,16 @@ TEST(Menu, APressedButtonIsSeenUntilTheRelease) {
     EXPECT_EQ(bar(), released);
 }
 
+TEST(Menu, PlayWithASkinThatIsGoneLocksTheBoard) {
+    GameWindow game;
+    game.PlayKinds({0, 16, 32});
+    QFile::remove(game.folder.filePath("Art/test.png"));
+    game.Play();
+    game.Lock(), game.RightClick();
+    EXPECT_EQ(game.dialogs.told, QStringList("\"test.png\" is not there."));
+    EXPECT_EQ(game.Model().CardsInMatrix(), 0);
+}
+
 TEST(Menu, PlayWithoutASkinSaysWhereItLookedAndGoesOn) {
     GameWindow game(/*withSkin=*/false);
     game.form->imgButton_Click(kPlay);
@@ -107,8 +109,6 @@ TEST(Menu, PlayWithoutASkinSaysWhereItLookedAndGoesOn) {
     EXPECT_TRUE(game.dialogs.told[0].contains(game.folder.path() + "/Art"))
         << game.dialogs.told[0].toStdString();
     EXPECT_EQ(game.form->CurrentMenu, kHelp);
-    game.Key(kKeyUp), game.Lock(), game.RightClick();
-    EXPECT_EQ(game.Model().CardsInMatrix(), 0);
     game.form->imgButton_Click(kMenu);
     EXPECT_TRUE(game.form->fraScreen[1].Visible());
 }

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "shell/mdlSound.h"
+#include "tests/support/Files.h"
 #include "tests/support/GameWindow.h"
 
 namespace {
@@ -11,8 +12,7 @@ protected:
     Heard() {
         mdlSound::Output(&game.sounds);
         QDir(game.folder.path()).mkdir("WAV");
-        QFile file(game.folder.filePath("WAV/SPACE.wav"));
-        if (file.open(QIODevice::WriteOnly)) file.write("lock");
+        WriteFile(game.folder.filePath("WAV/SPACE.wav"), "lock");
     }
     ~Heard() override { mdlSound::Output(nullptr); }
 
@@ -21,14 +21,6 @@ protected:
         QStringList names;
         for (const QByteArray& wave : std::exchange(game.sounds.heard, {})) names.append(Name(wave));
         return names.join(' ');
-    }
-    // Locks cards at `cells` and listens to the last lock only.
-    void LockAll(std::initializer_list<int> cells) {
-        for (const int cell : cells) {
-            if (game.Model().PosCurrentCard() != cell) game.MoveTo(cell);
-            game.sounds.heard.clear();
-            game.Lock();
-        }
     }
 
     GameWindow game;
@@ -42,51 +34,35 @@ private:
 };
 
 TEST_F(Heard, EachEventHasItsSound) {
-    constexpr int kUp = 38, kLeft = 37;
-    struct Case {
-        const char* what;
-        std::initializer_list<std::int16_t> kinds;
-        std::function<void()> act;
-        QString sounds;
+    const auto lockRow = [this] {
+        for (const int cell : {0, 1, 2, 3}) TakeHeard(), game.MoveTo(cell), TakeHeard(), game.Lock();
     };
-    const std::initializer_list<int> row = {0, 1, 2, 3}, cross = {1, 2, 3, 4, 8, 12, 0};
-    const Case cases[] = {
-        {"a key moves the card", {0}, [&] { game.Key(kUp); }, "104"},
-        {"a key at the edge", {0}, [&] { game.Key(kLeft); }, ""},
-        {"four quick keys",
-         {0},
-         [&] {
-             for (int i = 0; i < 4; ++i) game.Key(kUp);
-         },
-         "104 104 104"},
-        {"the mouse moves the card", {0}, [&] { game.MoveTo(5); }, "104"},
-        {"a lock", {0, 16, 32}, [&] { LockAll({12}); }, "lock lock"},
-        {"a lock by the timer", {0}, [&] { game.form->Timer1_Timer(); }, "lock lock"},
-        {"an occupied cell", {0, 16, 32}, [&] { game.Lock(), game.Lock(); }, "lock lock 105"},
-        {"an eraser", {36, 0, 0}, [&] { game.Lock(); }, "101"},
-        {"one shared element", {0, 7, 5, 3, 16, 32}, [&] { LockAll(row); }, "lock 106"},
-        {"two", {0, 6, 3, 3, 16, 32}, [&] { LockAll(row); }, "lock 107"},
-        {"three", {0, 3, 6, 9, 16, 32}, [&] { LockAll(row); }, "lock 108"},
-        {"four in two lines", {0, 0, 0, 7, 5, 3, 0, 16, 32}, [&] { LockAll(cross); }, "lock 109"},
-        {"six in two lines", {0, 0, 0, 0, 0, 0, 0, 16, 32}, [&] { LockAll(cross); }, "lock 110"},
-        {"a resume, once for each card",
-         {0, 16, 32},
-         [&] {
-             LockAll({12, 1}), TakeHeard(), game.RightClick(), TakeHeard(), game.RightClick();
-         },
-         "lock lock"},
-        {"a level under the mouse", {0}, [&] { game.form->lblClass_MouseMove(3, 0, 0, 0, 0); }, "103"},
-        {"the same level again", {0}, [&] { game.form->lblClass_MouseMove(3, 0, 0, 0, 0); }, ""},
-        {"a level chosen", {0}, [&] { game.form->lblClass_Click(0); }, "102"},
-        {"a skin chosen", {0}, [&] { game.form->picSkin_MouseUp(0, 0, 0, 0, 0); }, "102"},
-        {"a menu button", {0}, [&] { game.form->imgButton_Click(2); }, "111"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        game.PlayKinds(c.kinds);
+    const std::tuple<const char*, std::initializer_list<std::int16_t>, std::function<void()>, QString>
+        cases[] = {
+            {"a key moves the card", {0}, [&] { game.Key(kKeyUp); }, "104"},
+            {"a key at the edge", {0}, [&] { game.Key(kKeyLeft); }, ""},
+            {"the mouse moves the card", {0}, [&] { game.MoveTo(5); }, "104"},
+            {"a lock", {0, 16, 32}, [&] { game.Lock(); }, "lock lock"},
+            {"a lock by the timer", {0}, [&] { game.form->Timer1_Timer(); }, "lock lock"},
+            {"an occupied cell", {0, 16, 32}, [&] { game.Lock(), game.Lock(); }, "lock lock 105"},
+            {"an eraser", {36, 0, 0}, [&] { game.Lock(); }, "101"},
+            {"a line", {0, 3, 6, 9, 16, 32}, lockRow, "lock 108"},
+            {"a pause", {0}, [&] { game.RightClick(); }, QString("lock ").repeated(16).trimmed()},
+            {"a resume, once for each card",
+             {0, 16, 32},
+             [&] { game.Lock(), game.LockAt(1), game.RightClick(), TakeHeard(), game.RightClick(); },
+             "lock lock"},
+            {"a level under the mouse", {0}, [&] { game.form->lblClass_MouseMove(3, 0, 0, 0, 0); }, "103"},
+            {"the same level again", {0}, [&] { game.form->lblClass_MouseMove(3, 0, 0, 0, 0); }, ""},
+            {"a level chosen", {0}, [&] { game.form->lblClass_Click(0); }, "102"},
+            {"a skin chosen", {0}, [&] { game.form->picSkin_MouseUp(0, 0, 0, 0, 0); }, "102"},
+            {"a menu button", {0}, [&] { game.form->imgButton_Click(2); }, "111"},
+        };
+    for (const auto& [what, kinds, act, sounds] : cases) {
+        game.PlayKinds(kinds);
         TakeHeard();
-        c.act();
-        EXPECT_EQ(TakeHeard(), c.sounds);
+        act();
+        EXPECT_EQ(TakeHeard(), sounds) << what;
     }
 }
 
