@@ -118,6 +118,10 @@ void frmGame::DressHelpScreen() {
     imgMouse[2].Picture(WindowArt(QStringLiteral("mouse-right")));
     for (Label* label : {&lblHelpText2, &lblHelpText3, &lblHelpText4, &lblActiveCard, &lblErasor})
         Dress(*label, Text::Small, Look::kLevel);
+    for (std::size_t i = 0; i < lblKey.size(); ++i) {
+        shpKey[i].Look(QColor(0xB8, 0x9A, 0x5A), QColor(0xFF, 0xFD, 0xF6), 4);
+        Dress(lblKey[i], Text::Small, Look::kLevel);
+    }
     Picture2.Picture(WindowArt(QStringLiteral("activecard")));
     imgErasor.Picture(WindowArt(QStringLiteral("eraser")));
 }

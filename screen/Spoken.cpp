@@ -184,6 +184,7 @@ void frmGame::DescribeScreens() {
             return QStringLiteral("Score ") + lblHighScore[row].Caption();
         };
     }
+    for (Label& key : lblKey) key.access = {};  // said with what it does
     lblHelpText2.access.name = Fixed("Move the card: arrow keys or mouse");
     lblHelpText3.access.name = Fixed("Lock the card: space bar or left mouse button");
     lblHelpText4.access.name = Fixed("Pause and resume: P or right mouse button");

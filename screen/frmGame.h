@@ -170,6 +170,8 @@ public:
     Label lblHelpText2{&fraScreen[2], Design("lblHelpText2")};
     Label lblHelpText3{&fraScreen[2], Design("lblHelpText3")};
     Label lblHelpText4{&fraScreen[2], Design("lblHelpText4")};
+    std::array<Shape, 3> shpKey = ControlArray<Shape, 3>("shpKey", Inside(fraScreen[2]));
+    std::array<Label, 3> lblKey = ControlArray<Label, 3>("lblKey", Inside(fraScreen[2]));
     Image Picture2{&fraScreen[2], Design("Picture2")}, imgErasor{&fraScreen[2], Design("imgErasor")};
     Label lblActiveCard{&fraScreen[2], Design("lblActiveCard")},
         lblErasor{&fraScreen[2], Design("lblErasor")};

@@ -4,9 +4,11 @@
 
 #include "screen/Look.h"
 
-// Window tests run under one application, with the look and the number format of an English desktop.
+// Window tests run under one application, with the look and the number format of an English desktop, and
+// screens of all usual scales.
 int main(int argc, char* argv[]) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" TESSELOR_SCREENS);
+    QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));

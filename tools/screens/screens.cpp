@@ -118,6 +118,10 @@ void ShootScreens(const Game& game) {
     game.Click(kScore);
     game.MoveMouse(kNowhere);
     game.Shoot("scores");
+    game.Window().Focus();
+    game.Window().Key("Tab");
+    game.Settle();
+    game.Shoot("keyboard");
 }
 
 void ShootBoard(const Game& game) {
