@@ -17,9 +17,11 @@ public:
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
         if (access_.chosen) {
-            const bool button = access_.role == QAccessible::RadioButton;
-            (button ? state.checkable : state.selectable) = true;
-            (button ? state.checked : state.selected) = access_.chosen();
+            const bool isButton = access_.role == QAccessible::RadioButton, isChosen = access_.chosen();
+            state.checkable = isButton;
+            state.checked = isButton && isChosen;
+            state.selectable = !isButton;
+            state.selected = !isButton && isChosen;
         }
         return state;
     }
