@@ -17,7 +17,8 @@ void Tell(QWidget* control, QAccessible::Event event) {
 
 void TellChoice(QWidget* control, QAccessible::Role role) {
     QAccessible::State changed;
-    (role == QAccessible::RadioButton ? changed.checked : changed.selected) = true;
+    changed.checked = role == QAccessible::RadioButton;
+    changed.selected = role != QAccessible::RadioButton;
     QAccessibleStateChangeEvent change(control, changed);
     QAccessible::updateAccessibility(&change);
 }
