@@ -1,28 +1,30 @@
 #include "platform/Label.h"
 
 #include <QPainter>
-#include <QStyle>
 
-Label::Label(QWidget* parent, const Placement& placement) : Pressable<QLabel>(parent, placement) {
+Label::Label(QWidget* parent, const Placement& placement)
+    : Pressable<QWidget>(parent, placement), caption_(placement.caption) {
     access = {QAccessible::StaticText, [this] { return Caption().simplified(); }, {}, {}, {}};
-    setTextFormat(Qt::PlainText);
-    setText(placement.caption);
-    ForeColor(kBlack);
+}
+
+void Label::Caption(const QString& caption) {
+    if (caption == caption_) return;
+    caption_ = caption;
+    update();
 }
 
 void Label::ForeColor(Colour colour) {
+    if (colour == colour_) return;
     colour_ = colour;
-    QPalette palette = this->palette();
-    palette.setColor(QPalette::WindowText, ToQColor(colour));
-    setPalette(palette);
+    update();
 }
 
 // Pressed, the text stands a pixel lower.
-void Label::paintEvent(QPaintEvent* event) {
-    if (!IsPressed()) return QLabel::paintEvent(event);
+void Label::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    style()->drawItemText(&painter, rect().translated(0, 1), static_cast<int>(alignment()), palette(),
-                          isEnabled(), text(), foregroundRole());
+    painter.setPen(ToQColor(colour_));
+    const int flags = static_cast<int>(alignment_) | (wrap_ ? Qt::TextWordWrap : 0);
+    painter.drawText(rect().translated(0, IsPressed() ? 1 : 0), flags, Shown().remove(u'\r'));
 }
 
 void Label::Underline(bool underline) {

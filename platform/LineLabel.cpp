@@ -1,8 +1,7 @@
 #include "platform/LineLabel.h"
 
 #include <QHelpEvent>
-#include <QPainter>
-#include <QStyle>
+#include <QTextDocument>
 #include <QToolTip>
 #include <algorithm>
 
@@ -23,21 +22,15 @@ QString LineLabel::Line() const {
     return line.simplified();
 }
 
-QString LineLabel::Fitting() const {
+QString LineLabel::Shown() const {
     return fontMetrics().elidedText(Line(), Qt::ElideRight, width());
-}
-
-void LineLabel::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    const int flags = static_cast<int>(alignment()) | Qt::TextSingleLine;
-    style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), Fitting(), foregroundRole());
 }
 
 bool LineLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return Label::event(event);
     const QString line = Line();
     // As rich text made of plain text: tooltips guess, and a name may look like markup.
-    const QString tip = Fitting() == line ? QString() : Qt::convertFromPlainText(line);
+    const QString tip = Shown() == line ? QString() : Qt::convertFromPlainText(line);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
     return true;
 }

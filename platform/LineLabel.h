@@ -9,10 +9,9 @@ public:
     using Label::Label;
 
 protected:
-    void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
     [[nodiscard]] QString Line() const;
-    [[nodiscard]] QString Fitting() const;
+    [[nodiscard]] QString Shown() const override;
 };

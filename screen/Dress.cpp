@@ -9,7 +9,7 @@ namespace {
 void Dress(Label& label, Look::Text text, Colour colour, Qt::Alignment alignment = Qt::AlignCenter) {
     label.setFont(Look::Font(text));
     label.ForeColor(colour);
-    label.setAlignment(alignment);
+    label.Alignment(alignment);
 }
 
 constexpr int kMostLetters = 64;     // of a name
@@ -112,7 +112,7 @@ void frmGame::DressSkinScreen() {
 void frmGame::DressHelpScreen() {
     using Look::Text;
     Dress(lblHelpText1, Text::Small, Look::kLevel, Qt::AlignLeft | Qt::AlignTop);
-    lblHelpText1.setWordWrap(true);
+    lblHelpText1.WordWrap(true);
     imgMouse[0].Picture(WindowArt(QStringLiteral("mouse-move")));
     imgMouse[1].Picture(WindowArt(QStringLiteral("mouse-left")));
     imgMouse[2].Picture(WindowArt(QStringLiteral("mouse-right")));

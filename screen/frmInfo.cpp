@@ -82,7 +82,7 @@ void frmInfo::DressControls() {
     DressText();
     shpArea.Look(QColor(0xC9, 0xA2, 0x4B), QColor(0x1B, 0x2A, 0x4E), 6);
     lblCaption.setFont(Look::Font(Look::Text::Heading));
-    lblCaption.setAlignment(Qt::AlignCenter);
+    lblCaption.Alignment(Qt::AlignCenter);
     lblCaption.ForeColor(kWhite);
     imgButton.setCursor(Qt::PointingHandCursor);
     imgButton.ShowsPress(true);

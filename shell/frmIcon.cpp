@@ -21,7 +21,7 @@ frmIcon::frmIcon()
     setWindowTitle(QGuiApplication::applicationDisplayName());
     setFixedSize(TwipsRect{0, 0, kWidth, kHeight}.InPixels().size());
     for (Label* label : {&Label1, &Label2, &Label3, &Label4}) {
-        label->setAlignment(Qt::AlignCenter);
+        label->Alignment(Qt::AlignCenter);
         label->ForeColor(0x643420);
     }
     QFont bold = Label1.font();
