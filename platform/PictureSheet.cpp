@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPainter>
+#include <new>
 
 namespace {
 
@@ -29,11 +30,20 @@ bool IsCutShort(const QByteArray& format, const QByteArray& bytes) {
     return format == "jpeg" && !bytes.last(qMin<qsizetype>(bytes.size(), 64)).contains("\xFF\xD9");
 }
 
+// An image without memory is a null one, with which the toolkit goes on in silence.
+QImage Allocated(QImage image) {
+    if (image.isNull()) throw std::bad_alloc();
+    return image;
+}
+
+// Throws when there is no memory; a null image is one that cannot be read.
 QImage Decode(const QByteArray& bytes) {
     QBuffer buffer;
     buffer.setData(bytes);
     QImageReader reader(&buffer);
     if (!WhyNotThisSize(reader.size()).isEmpty() || IsCutShort(reader.format(), bytes)) return {};
+    // The toolkit would call a picture for which there is no memory a damaged one.
+    (void)Allocated(QImage(reader.size(), QImage::Format_ARGB32));
     return reader.read();
 }
 
@@ -44,9 +54,9 @@ QRect CellRect(const QSize& sheet, int cell) {
 
 QImage Fit(const QImage& cell, qreal scale) {
     const int side = qRound(kCellPixels * scale);
-    QImage fitted(side, side, QImage::Format_ARGB32_Premultiplied);
+    QImage fitted = Allocated({side, side, QImage::Format_ARGB32_Premultiplied});
     fitted.fill(Qt::transparent);
-    const QImage scaled = cell.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    const QImage scaled = Allocated(cell.scaled(side, side, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     QPainter painter(&fitted);
     painter.drawImage((side - scaled.width()) / 2, (side - scaled.height()) / 2, scaled);
     painter.end();
@@ -85,7 +95,16 @@ std::shared_ptr<PictureSheet> PictureSheet::Load(const QString& path, QString& w
         why = Sentence(path, QStringLiteral("cannot be opened."));
         return nullptr;
     }
-    const QByteArray bytes = file.read(kMostSheetBytes);
+    try {
+        return FromBytes(file.read(qMin(file.size(), kMostSheetBytes)), path, why);
+    } catch (const std::bad_alloc&) {
+        why = Sentence(path, QStringLiteral("needs more memory than there is."));
+        return nullptr;
+    }
+}
+
+std::shared_ptr<PictureSheet> PictureSheet::FromBytes(const QByteArray& bytes, const QString& path,
+                                                      QString& why) {
     const QImage sheet = Decode(bytes);
     if (sheet.isNull()) {
         why = Sentence(path, QStringLiteral("is damaged: its picture cannot be read to the end."));

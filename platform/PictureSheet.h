@@ -38,6 +38,8 @@ public:
     [[nodiscard]] Picture Thumbnail() const;
 
 private:
+    static std::shared_ptr<PictureSheet> FromBytes(const QByteArray& bytes, const QString& path,
+                                                   QString& why);
     explicit PictureSheet(QByteArray bytes) : bytes_(std::move(bytes)) {}
     void Cut(const QImage& sheet, qreal scale) const;
 

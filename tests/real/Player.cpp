@@ -156,3 +156,8 @@ int Player::Leave() {
 int Player::AwaitEnd() {
     return game_.waitForFinished(10000) ? game_.exitCode() : -1;
 }
+
+void Player::KillDisplay() {
+    window_.reset();
+    display_.Kill();
+}

@@ -48,6 +48,9 @@ public:
     // Clicks the exit and waits for the end: the exit status of the game, -1 when it does not end.
     int Leave();
     int AwaitEnd();
+    [[nodiscard]] qint64 Process() const { return game_.processId(); }
+    // Ends the X server under the game; nothing is to be seen from then on.
+    void KillDisplay();
 
 private:
     int scale_;

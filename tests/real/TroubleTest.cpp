@@ -1,0 +1,174 @@
+// The running game in a system that goes wrong around it: nothing is lost, and it goes on or ends in order.
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <QDir>
+#include <QFile>
+#include <csignal>
+
+#include "model/CardInfo.h"
+#include "tests/real/Player.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr QPoint kPlay(366, 262), kMenu(366, 216), kScore(366, 172), kHelp(366, 125);
+constexpr QPoint kPractice(115, 112), kMaster(115, 207);
+
+// The sanitizers keep what was freed, and end a program that has no memory.
+#if defined(__has_feature)
+constexpr bool kSanitized = __has_feature(address_sanitizer);
+#else
+constexpr bool kSanitized = false;
+#endif
+
+class Trouble : public testing::Test {
+protected:
+    void Open(const QString& home = {}) {
+        player = std::make_unique<Player>(1, home);
+        ASSERT_TRUE(player->Window().Found());
+        player->Window().Focus();
+    }
+    void ClickAndSee(QPoint at) {
+        const QImage before = player->Window().Look();
+        player->Click(at);
+        ASSERT_TRUE(player->AwaitChange(before));
+    }
+    void StartGame() {
+        ClickAndSee(kPlay);
+        ASSERT_TRUE(player->AwaitTurn());
+    }
+    void LockIn(int cell) {
+        player->MoveByKeys(cell);
+        const QImage before = player->Window().Look();
+        player->Window().Key("space");
+        ASSERT_TRUE(player->AwaitChange(before));
+        ASSERT_TRUE(player->AwaitTurn());
+    }
+    qint64 Kilobytes(const char* field) const {
+        QFile status(QString("/proc/%1/status").arg(player->Process()));
+        if (!status.open(QIODevice::ReadOnly)) return 0;
+        const QByteArray text = status.readAll();
+        return text.mid(text.indexOf(field) + qsizetype(strlen(field)))
+            .trimmed()
+            .split(' ')
+            .first()
+            .toLongLong();
+    }
+    int OpenFiles() const {
+        return int(QDir(QString("/proc/%1/fd").arg(player->Process())).entryList(QDir::AllEntries).size());
+    }
+    static int LockedCards(const std::array<int, 16>& board) {
+        return int(std::count_if(board.begin(), board.end(), [](int kind) { return kind >= 0; }));
+    }
+
+    std::unique_ptr<Player> player;
+};
+
+// Away for longer than a lock time, as in a laptop that was closed: one card is locked late, and no more.
+TEST_F(Trouble, SuspendedWithTheTimerRunning) {
+    Open();
+    ClickAndSee(kMenu);
+    ClickAndSee(kMaster);
+    StartGame();
+    LockIn(5);
+    player->MoveByKeys(12);
+    const auto board = player->Board();
+    kill(pid_t(player->Process()), SIGSTOP);
+    const QImage asleep = player->Window().Look();
+    EXPECT_FALSE(player->Window().Await([&] { return player->Window().Look() != asleep; }, 5s));
+    kill(pid_t(player->Process()), SIGCONT);
+    ASSERT_TRUE(player->AwaitChange(asleep));
+    ASSERT_TRUE(player->AwaitTurn());
+    player->Window().Key("p");
+    EXPECT_TRUE(player->Window().Await([&] { return player->IsCovered(); }));
+    EXPECT_LE(LockedCards(board), 3);
+    EXPECT_EQ(player->Leave(), 0);
+}
+
+TEST_F(Trouble, AllFoldersRemovedDuringAGame) {
+    const QTemporaryDir home;
+    QDir(home.path()).mkdir("Art");
+    QFile::copy(TESSELOR_BUILD "/Art/sea.png", home.filePath("Art/sea.png"));
+    Open(home.path());
+    StartGame();
+    LockIn(5);
+    QDir(home.path()).removeRecursively();
+    QDir(player->Display().Environment().value("XDG_CONFIG_HOME")).removeRecursively();
+    LockIn(6);
+    player->Click(kPlay);  // has no skin to load any more, and says so
+    const RealWindow box(player->Display().Name(), "Tesselor", &player->Window());
+    ASSERT_TRUE(box.Found());
+    box.Focus();
+    const QImage told = player->Window().Look();
+    box.Key("Return");
+    ASSERT_TRUE(player->AwaitChange(told));
+    ClickAndSee(kScore);
+    EXPECT_EQ(player->Leave(), 0);
+}
+
+// Too little memory for a skin of the largest size: the player is told, and the game goes on.
+TEST_F(Trouble, NoMemoryForTheSkin) {
+    if (kSanitized) GTEST_SKIP();
+    const QTemporaryDir home;
+    QDir(home.path()).mkdir("Art");
+    QImage(TESSELOR_BUILD "/Art/sea.png").scaled(1920, 8320).save(home.filePath("Art/large.png"));
+    Open(home.path());
+    StartGame();
+    rlimit before{};
+    const auto process = pid_t(player->Process());
+    const rlimit tight{rlim_t(Kilobytes("VmSize:") + 20'000) * 1024, RLIM_INFINITY};
+    ASSERT_EQ(prlimit(process, RLIMIT_AS, &tight, &before), 0);
+    player->Click(kPlay);
+    const RealWindow box(player->Display().Name(), "Tesselor", &player->Window());
+    ASSERT_TRUE(box.Found());
+    prlimit(process, RLIMIT_AS, &before, nullptr);
+    box.Focus();
+    const QImage told = player->Window().Look();
+    box.Key("Return");
+    ASSERT_TRUE(player->AwaitChange(told));
+    StartGame();
+    EXPECT_EQ(player->Leave(), 0);
+}
+
+TEST_F(Trouble, ThousandsOfClicksAtOnce) {
+    Open();
+    const auto burst = [&](int clicks) {
+        for (int click = 0; click < clicks; ++click)
+            player->Click(std::array{kMenu, kMaster, kScore, kPractice, kHelp}[std::size_t(click % 5)]);
+        player->Click(kPlay);
+        ASSERT_TRUE(player->AwaitTurn());
+        LockIn(5);
+        LockIn(6);
+        for (int click = 0; click < clicks; ++click) player->ClickCell(click % 2 == 0 ? 5 : 6);
+        player->Window().Key("p");
+        ASSERT_TRUE(player->Window().Await([&] { return player->IsCovered(); }));
+    };
+    burst(200);
+    const qint64 memory = Kilobytes("VmRSS:");
+    const int files = OpenFiles();
+    burst(2000);
+    const qint64 grown = Kilobytes("VmRSS:") - memory;
+    EXPECT_TRUE(kSanitized || grown < memory / 10) << grown;
+    EXPECT_LE(OpenFiles(), files + 4);  // one connection for sound more or less
+    EXPECT_EQ(player->Leave(), 0);
+}
+
+TEST_F(Trouble, TheDisplayIsKilled) {
+    Open();
+    StartGame();
+    const QString store = player->Display().Environment().value("XDG_CONFIG_HOME") + "/Tesselor/registry.txt";
+    const auto bytes = [&] {
+        QFile file(store);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    const QByteArray kept = bytes();
+    EXPECT_FALSE(kept.isEmpty());
+    player->KillDisplay();
+    EXPECT_GT(player->AwaitEnd(), 0);  // by itself, and not by a signal
+    EXPECT_EQ(bytes(), kept);
+}
+
+}  // namespace
