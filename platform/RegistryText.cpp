@@ -1,6 +1,7 @@
 #include "platform/RegistryText.h"
 
 #include <QStringDecoder>
+#include <algorithm>
 
 namespace {
 
@@ -80,6 +81,13 @@ std::optional<Value> ParseValue(QStringView line) {
     return Value{*name, text};
 }
 
+// Byte order marks after the first, which the decoder takes. Left there they would hide the first line, until
+// the next reading had taken one more.
+qsizetype MarksAtStart(QStringView text) {
+    const auto isMark = [](QChar unit) { return unit == QChar::ByteOrderMark; };
+    return std::find_if_not(text.begin(), text.end(), isMark) - text.begin();
+}
+
 bool Same(const QString& one, const QString& other) {
     return one.compare(other, Qt::CaseInsensitive) == 0;
 }
@@ -90,6 +98,7 @@ std::optional<RegistryText> RegistryText::FromBytes(const QByteArray& bytes) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     QString text = decoder(bytes);
     if (decoder.hasError()) return {};
+    text.remove(0, MarksAtStart(text));
     RegistryText registry;
     if (text.endsWith(u'\n')) text.chop(1);
     if (!text.isEmpty()) registry.lines_ = text.split(u'\n');
