@@ -37,7 +37,7 @@ std::optional<RegistryText> Read(const QString& path) {
 bool SetAside(const QString& path) {
     QString aside;
     for (int i = 1; aside.isEmpty() || IsThere(aside); ++i)
-        aside = QStringLiteral("%1.unreadable-%2").arg(path).arg(i);
+        aside = path + QStringLiteral(".unreadable-") + QString::number(i);
     return std::rename(QFile::encodeName(path).constData(), QFile::encodeName(aside).constData()) == 0;
 }
 

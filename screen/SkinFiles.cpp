@@ -17,6 +17,13 @@ bool IsTaken(const QStringList& names, const QString& name, const QString& repla
     return name.compare(replaced, Qt::CaseInsensitive) != 0 && names.contains(name, Qt::CaseInsensitive);
 }
 
+// The name of `source` as one that is found again: not hidden, and without the program folder's separator.
+QString VisibleName(const QString& source) {
+    QString name = QFileInfo(source).fileName().replace('\\', '_');
+    if (name.startsWith('.')) name[0] = '_';
+    return name;
+}
+
 // `wanted`, or the first of "wanted-2", "wanted-3", ... that no other file has.
 QString FreeName(const QDir& folder, const QString& wanted, const QString& replaced) {
     const QStringList names = folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
@@ -25,7 +32,7 @@ QString FreeName(const QDir& folder, const QString& wanted, const QString& repla
     const QString stem = wanted.chopped(ending.size());
     QString name = wanted;
     for (int number = 2; IsTaken(names, name, replaced); ++number)
-        name = QStringLiteral("%1-%2%3").arg(stem).arg(number).arg(ending);
+        name = stem + '-' + QString::number(number) + ending;
     return name;
 }
 
@@ -58,7 +65,7 @@ InstalledSkin InstallSkin(const QString& source, const QString& folder, const QS
     const QDir art(folder);
     art.mkpath(QStringLiteral("."));
     RemoveLeftovers(art);
-    const QString name = FreeName(art, QFileInfo(source).fileName(), replaced);
+    const QString name = FreeName(art, VisibleName(source), replaced);
     if (!Put(art, name, sheet->Bytes()))
         return {{}, QStringLiteral("\"%1\" could not be written into %2.").arg(name, folder)};
     // The same name in another case is another file here, and a slot must not have two.

@@ -1,6 +1,6 @@
 #include "screen/frmInfo.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -17,8 +17,9 @@ constexpr qreal kPadding = 9;  // between the text and the edge of its sheet
 constexpr qint64 kMostBytes = qint64{512} * 1024;
 
 QString RulesText(const QString& path) {
+    // Only a plain file: another kind could keep whoever opens it waiting.
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) return {};
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return {};
     QString text = QString::fromUtf8(file.read(kMostBytes));
     text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     if (!file.atEnd()) text += QStringLiteral("\n[...]");

@@ -7,6 +7,7 @@
 #include "platform/SoundFiles.h"
 #include "platform/SoundOutput.h"
 #include "platform/WaveData.h"
+#include "tests/support/Files.h"
 
 namespace {
 
@@ -102,6 +103,7 @@ TEST(SoundFiles, AreReadOnceUntilTheyChange) {
     QFile::remove(path);
     EXPECT_EQ(played(), "refused") << "gone";
     EXPECT_FALSE(files.Play(folder.path())) << "a folder";
+    EXPECT_FALSE(files.Play(MakePipe(folder.filePath("pipe.wav"))));
 }
 
 }  // namespace

@@ -77,6 +77,13 @@ TEST_F(SkinDrop, NamesThatClashGiveWay) {
         {"that of the skin replaced is free", 1, "u.png", "u.png"},
         {"without an ending", 9, "plain", "plain"},
         {"and again", 9, "plain", "plain-2"},
+        {"with percent signs", 9, "a%1%2.png", "a%1%2.png"},
+        {"and again", 9, "a%1%2.png", "a%1%2-2.png"},
+        {"that would be hidden", 9, ".incoming-a.png", "_incoming-a.png"},
+        {"all dots", 9, "...", "_.."},
+        {"with the folder's separator", 9, "..\\..\\a.png", "_._.._a.png"},
+        {"markup and lines", 1, "<b>\"a'&\n\t$(b);.png", "<b>\"a'&\n\t$(b);.png"},
+        {"as long as can be", 1, QString(251, 'a') + ".png", QString(251, 'a') + ".png"},
     };
     game.dialogs.answer = true;
     for (const auto& [what, slot, name, becomes] : cases) {
@@ -84,7 +91,7 @@ TEST_F(SkinDrop, NamesThatClashGiveWay) {
         EXPECT_EQ(game.form->skinFile[filled], becomes) << what;
         EXPECT_TRUE(Art().contains(becomes)) << what;
     }
-    EXPECT_EQ(Art().size(), 8);
+    EXPECT_EQ(Art().size(), 10);
 }
 
 TEST_F(SkinDrop, RefusesWhatIsNoSkinAndSaysWhy) {
@@ -93,7 +100,9 @@ TEST_F(SkinDrop, RefusesWhatIsNoSkinAndSaysWhy) {
     const QByteArray good = ReadFile(NewSkin("good.png"));
     WriteFile(half, good.first(good.size() / 2));
     game.dialogs.answer = true;
-    for (const QString& file : {text, half, outside.filePath("gone.png"), outside.path()}) {
+    const QString pipe = MakePipe(outside.filePath("pipe.png"));
+    for (const QString& file :
+         {text, half, pipe, QString("/dev/zero"), outside.filePath("gone.png"), outside.path()}) {
         game.dialogs.told.clear();
         Drop(1, file);
         ASSERT_FALSE(game.dialogs.told.isEmpty());
@@ -118,6 +127,27 @@ TEST_F(SkinDrop, OfALinkTheFileIsCopiedAndTheLinkGoes) {
     EXPECT_TRUE(QFile::exists(file));
     EXPECT_FALSE(QFileInfo(link).isSymLink());
     EXPECT_FALSE(QFileInfo(game.folder.filePath("Art/link.png")).isSymLink());
+}
+
+TEST_F(SkinDrop, ALinkInTheFolderGivesWayWithoutItsTarget) {
+    const QString target = NewSkin("target.png"), link = game.folder.filePath("Art/link.png");
+    QFile::link(target, link);
+    game.Open();
+    game.dialogs.answer = true;
+    ASSERT_EQ(game.form->skinFile[0], "link.png");
+    Drop(0, NewSkin("new.png"));
+    EXPECT_FALSE(QFileInfo(link).isSymLink());
+    EXPECT_TRUE(QFile::exists(target));
+}
+
+TEST_F(SkinDrop, ANameTooLongToMakeFreeLosesNothing) {
+    const QString name = QString(251, 'a') + ".png";
+    Drop(9, NewSkin(name));
+    const QString again = NewSkin(name);
+    Drop(9, again);
+    EXPECT_EQ(game.dialogs.told.size(), 1);
+    EXPECT_TRUE(QFile::exists(again));
+    EXPECT_EQ(Art().size(), 4);
 }
 
 TEST_F(SkinDrop, OnlyFilesOfThisMachineAreTakenFromADrag) {

@@ -25,11 +25,16 @@ TEST(Skins, OnlyPicturesOf3x13CellsTakeASlot) {
         {"d-head.png", good.first(30)},
         {"e-zero.bmp", BitmapClaiming(0, 0)},
         {"f-small.bmp", BitmapClaiming(2, 12)},
-        {"g-huge.bmp", BitmapClaiming(60000, 60000)},
+        {"g-huge.bmp", BitmapClaiming(999'999'999, 999'999'988)},
     };
     for (const auto& [name, bytes] : bad) WriteFile(art + name, bytes);
     WriteSkin(art + "z.png");
+    QImage bomb(12'000, 13'000, QImage::Format_Mono);  // whole, and a thousand times as large as its file
+    bomb.fill(0);
+    bomb.save(art + "bomb.png");
     QDir().mkdir(art + "folder.png");
+    MakePipe(art + "pipe.png");
+    QFile::link("/dev/zero", art + "device.png");
     game.Open();
     game.Play();
     EXPECT_TRUE(game.dialogs.told.isEmpty());

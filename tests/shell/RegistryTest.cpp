@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "tests/support/Files.h"
 #include "tests/support/StoreFile.h"
 
 namespace {
@@ -80,16 +81,27 @@ TEST(Registry, ReplacesAValueAndLeavesEveryOtherLineAlone) {
     EXPECT_EQ(store.Bytes(),
               "note\n\n[A]\n\"0\"=\"new\"\n\"N\"=\"text\"\n\"1\"=\"dam\n\"1\"=\"%0025\"\n\n[B]\n\"0\"=\"b\"\n"
               "\n[C\\D]\n\"x\"=\"\"\n");
-    EXPECT_EQ(QFile::permissions(store.path) & (QFile::ReadGroup | QFile::ReadOther), 0);
+}
+
+TEST(Registry, IsForItsOwnerAlone) {
+    const mode_t before = umask(0);
+    for (const QByteArray& old : {QByteArray(), QByteArray("[A]\n")}) {
+        const StoreFile store(old);
+        EXPECT_EQ(QFile::exists(store.path), !old.isEmpty());  // and everybody's
+        Write("0", "text");
+        for (const QString& file : {store.path, store.path + ".lock"})
+            EXPECT_EQ(QFile::permissions(file) & QFile::Permissions(0x0FF), 0) << file.toStdString();
+    }
+    umask(before);
 }
 
 TEST(Registry, SetsAsideWhatItCannotRead) {
     const std::pair<const char*, std::function<void(const StoreFile&)>> wrecks[] = {
         {"not UTF-8", [](const StoreFile& store) { store.Write("[A]\n\"0\"=\"\xE9\"\n"); }},
         {"ends inside a character", [](const StoreFile& store) { store.Write("[A]\n\"0\"=\"\xC3"); }},
-        {"a hundred megabytes",
-         [](const StoreFile& store) { store.Write("x"), QFile::resize(store.path, 100 << 20); }},
+        {"a gigabyte", [](const StoreFile& store) { store.Write("x"), QFile::resize(store.path, 1 << 30); }},
         {"a folder", [](const StoreFile& store) { QDir().mkpath(store.path + "/inside"); }},
+        {"a pipe", [](const StoreFile& store) { MakePipe(store.path); }},
         {"a link to a device", [](const StoreFile& store) { QFile::link("/dev/zero", store.path); }},
     };
     for (const auto& [what, wreck] : wrecks) {
