@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 #include <deque>
 #include <random>
+#include <vector>
 
 #include "platform/SoundOutput.h"
 #include "screen/frmGame.h"
@@ -80,8 +81,8 @@ public:
         form->imgButton_Click(0);
     }
     // Plays with a first, a second and further kinds given; what is drawn after them is arbitrary.
-    void PlayKinds(std::initializer_list<std::int16_t> kinds, int level = 0) {
-        random.script.assign(kinds);
+    void PlayKinds(const std::vector<std::int16_t>& kinds, int level = 0) {
+        random.script.assign(kinds.begin(), kinds.end());
         if (random.script.size() > 1)
             std::swap(random.script[0], random.script[1]);  // the next card is drawn first
         Play(level);
