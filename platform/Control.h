@@ -66,7 +66,7 @@ public:
 
     Handler onMouseDown, onMouseUp;
     Handler onMouseMove;            // with and without a button held
-    std::function<void()> onClick;  // the left button was released inside
+    std::function<void()> onClick;  // the left button was released inside; not on what is hidden by then
 
 protected:
     void mousePressEvent(QMouseEvent* event) override { Call(onMouseDown, *event); }
@@ -74,7 +74,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override { Call(onMouseDown, *event); }
     void mouseMoveEvent(QMouseEvent* event) override { Call(onMouseMove, *event); }
     void mouseReleaseEvent(QMouseEvent* event) override {
-        const bool click = event->button() == Qt::LeftButton && this->rect().contains(event->pos());
+        const bool inside = this->isVisible() && this->rect().contains(event->pos());
+        const bool click = inside && event->button() == Qt::LeftButton;
         Call(onMouseUp, *event);
         if (click && onClick) onClick();
     }

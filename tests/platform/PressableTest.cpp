@@ -36,6 +36,7 @@ public:
 TEST(Pressable, IsSeenPressedWhileTheLeftButtonIsHeldOverIt) {
     Label label(nullptr, {"label", {0, 0, 600, 300}, "text"});
     label.ShowsPress(true);
+    label.show();
     const QImage resting = Seen(label);
     Send(label, QEvent::MouseButtonPress, kInside);
     const QImage pressed = Seen(label);
@@ -52,8 +53,10 @@ TEST(Pressable, IsSeenPressedWhileTheLeftButtonIsHeldOverIt) {
     EXPECT_EQ(Seen(label), resting);
 }
 
-TEST(Pressable, AHiddenControlComesBackUnpressed) {
+TEST(Pressable, AHiddenControlIsNotClickedAndComesBackUnpressed) {
     Image image(nullptr, {"image", {0, 0, 600, 300}, {}});
+    int clicks = 0;
+    image.onClick = [&] { ++clicks; };
     image.Picture({std::make_shared<Stripe>(), 0});
     image.show();
     const QImage resting = Seen(image);
@@ -63,8 +66,12 @@ TEST(Pressable, AHiddenControlComesBackUnpressed) {
     Send(image, QEvent::MouseButtonPress, kInside);
     EXPECT_EQ(Seen(image).pixel(5, 1), 0xFF000000);
     image.hide();
+    Send(image, QEvent::MouseButtonRelease, kInside);  // it still has the mouse
+    EXPECT_EQ(clicks, 0);
     image.show();
     EXPECT_EQ(Seen(image), resting);
+    Send(image, QEvent::MouseButtonRelease, kInside);
+    EXPECT_EQ(clicks, 1);
 }
 
 TEST(Pressable, ALinkIsUnderlinedWhileTheMouseIsOverIt) {
