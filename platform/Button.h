@@ -22,6 +22,8 @@ protected:
         const bool arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
         arrow ? event->ignore() : QPushButton::keyPressEvent(event);
     }
+    // The toolkit's button, hidden while a mouse button is held on it, would still be clicked.
+    bool hitButton(const QPoint& pos) const override { return isVisible() && QPushButton::hitButton(pos); }
 };
 
 class TextBox : public Control<QLineEdit> {

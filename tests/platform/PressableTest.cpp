@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QEnterEvent>
 
+#include "platform/Button.h"
 #include "platform/Image.h"
 #include "platform/Label.h"
 
@@ -72,6 +73,20 @@ TEST(Pressable, AHiddenControlIsNotClickedAndComesBackUnpressed) {
     EXPECT_EQ(Seen(image), resting);
     Send(image, QEvent::MouseButtonRelease, kInside);
     EXPECT_EQ(clicks, 1);
+}
+
+TEST(Pressable, AHiddenCommandButtonIsNotClicked) {
+    CommandButton button(nullptr, {"button", {0, 0, 600, 300}, {}});
+    int clicks = 0;
+    QObject::connect(&button, &QPushButton::clicked, [&] { ++clicks; });
+    button.show();
+    for (const bool hidden : {true, false}) {
+        Send(button, QEvent::MouseButtonPress, kInside);
+        button.Visible(!hidden);
+        Send(button, QEvent::MouseButtonRelease, kInside);
+        button.show();
+        EXPECT_EQ(clicks, hidden ? 0 : 1);
+    }
 }
 
 TEST(Pressable, ALinkIsUnderlinedWhileTheMouseIsOverIt) {
