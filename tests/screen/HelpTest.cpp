@@ -30,7 +30,7 @@ TEST(Info, ShowsTheRulesReadAfreshEachTime) {
     EXPECT_TRUE(shown().startsWith("manual"));
     EXPECT_LT(shown().size(), 1'000'000) << "a file that is no manual is shown in part";
     QFile::remove(path);
-    MakePipe(path);
+    MakePipe(game.folder.filePath("Res/Tesselor rules.txt"));
     EXPECT_EQ(shown(), "");
 }
 
