@@ -7,11 +7,19 @@
 // the separator and compared without regard to case.
 class ProgramFolder {
 public:
-    explicit ProgramFolder(QString root) : root_(std::move(root)) {}
+    // root: the folder. installed: the copy that came with the program and belongs to nobody in particular;
+    // what the folder does not have is read there, but for skins. Empty for none.
+    explicit ProgramFolder(QString root, QString installed = {})
+        : root_(std::move(root)), installed_(std::move(installed)) {}
 
     // The folder in force: TESSELOR_HOME when set; the executable's own when it holds "Art" and can be
-    // written; otherwise the user's data folder.
+    // written; otherwise the user's data folder over the installed copy.
     [[nodiscard]] static ProgramFolder Find();
+
+    // The folder `own` of a user, with the skins of `installed` brought into it. When it cannot hold them and
+    // has none of its own, the installed copy itself: the game is played with those skins, and cannot be
+    // given others.
+    [[nodiscard]] static ProgramFolder OfUser(const QString& own, const QString& installed);
 
     // The path of `name` ("\Art\sea.png"): of the file or folder that is there, whatever its case, or the one
     // to make.
@@ -21,5 +29,5 @@ public:
     [[nodiscard]] QStringList Files(const QString& name) const;
 
 private:
-    QString root_;
+    QString root_, installed_;
 };
