@@ -40,7 +40,7 @@ bool IsOneColour(const QImage& image, QRgb colour) {
 
 }  // namespace
 
-Player::Player(int scale, const QString& home) : scale_(scale) {
+Player::Player(int scale, const QString& home, const QString& program) : scale_(scale) {
     QString why;
     const QDir art((home.isEmpty() ? QStringLiteral(TESSELOR_BUILD) : home) + "/Art");
     const QStringList skins = art.entryList(QDir::Files, QDir::Name | QDir::IgnoreCase);
@@ -53,7 +53,7 @@ Player::Player(int scale, const QString& home) : scale_(scale) {
     if (!home.isEmpty()) environment.insert("TESSELOR_HOME", home);
     game_.setProcessEnvironment(environment);
     game_.setProcessChannelMode(QProcess::ForwardedChannels);
-    game_.start(TESSELOR_BUILD "/tesselor", {});
+    game_.start(program, {});
     window_ = std::make_unique<RealWindow>(display_.Name(), "Tesselor");
     const auto isPainted = [this] { return qBlue(window_->Look({5, 200, 1, 1}).pixel(0, 0)) > 20; };
     if (window_->Found()) window_->Await(isPainted);

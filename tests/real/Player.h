@@ -11,9 +11,9 @@
 // pictures and plays with keys and mouse. Knows of the game only what is to be seen.
 class Player {
 public:
-    // scale: the desktop's scale, 1 or 2. home: the program's folder; that of the build when empty. Scores
-    // are kept in a folder of the player's own.
-    explicit Player(int scale, const QString& home = {});
+    // scale: the desktop's scale, 1 or 2. home: the program's folder; the one it finds itself when empty.
+    // Scores are kept in a folder of the player's own.
+    explicit Player(int scale, const QString& home = {}, const QString& program = TESSELOR_BUILD "/tesselor");
     ~Player();
 
     // A cell as it is seen: a kind 0..38, nothing, or something that is neither (mid-change).

@@ -3,6 +3,7 @@
 
 usage: make_picture.py SOURCE STEM --percents 100 150 ... [--set name=value ...]   writes STEM@100.png ...
        make_picture.py SOURCE STEM --pixels 16 32 ...     [--set name=value ...]   writes STEM-16.png ...
+       make_picture.py SOURCE STEM --filled               [--set name=value ...]   writes STEM.svg
 
 In SOURCE, $house stands for the metals, stones and line styles shared by all pictures (house.svg); every
 other placeholder is given with --set.
@@ -35,12 +36,15 @@ def main():
     parser.add_argument("stem")
     parser.add_argument("--percents", type=int, nargs="*", default=[])
     parser.add_argument("--pixels", type=int, nargs="*", default=[])
+    parser.add_argument("--filled", action="store_true")
     parser.add_argument("--set", nargs="*", default=[])
     given = parser.parse_args()
     values = {"house": HOUSE.read_text()} | dict(pair.split("=", 1) for pair in given.set)
     drawing = svg.fill(given.source.read_text(), values)
     for target, width, height in outputs(given.stem, drawing, given.percents, given.pixels):
         svg.rasterise(drawing, target, width, height)
+    if given.filled:
+        pathlib.Path(f"{given.stem}.svg").write_text(drawing)
 
 
 if __name__ == "__main__":
