@@ -31,7 +31,7 @@ void frmGame::FillSkinSlots() {
 
 // Decoding pictures takes far longer than showing the window, so it waits until the window is seen.
 void frmGame::FinishSkinSlots() {
-    if (skinsFinished_) return;
+    if (skinsFinished_ || unloaded_) return;  // a window may be closed right after its first paint
     skinsFinished_ = true;
     for (std::int16_t slot = 0; slot < SkinCount;) {
         const QString path = world_.folder.Path(kSkinFolder + skinFile[static_cast<std::size_t>(slot)]);

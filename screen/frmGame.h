@@ -270,7 +270,7 @@ private:
     bool skinsFinished_ = false;
     Recording recording_;
     bool demoRuns_ = false;
-    bool unloaded_ = false;  // while a demonstration runs: the model goes when it has unwound
+    bool unloaded_ = false;  // the model has gone, or goes when the demonstration that runs has unwound
     std::unique_ptr<frmInfo> info_;
     std::unique_ptr<Narrator> narrator_;
 };

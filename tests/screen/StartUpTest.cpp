@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+
 #include "screen/Look.h"
 #include "tests/support/GameWindow.h"
 
@@ -57,4 +59,13 @@ TEST(StartUp, UnloadingStopsTheGameAtAnyMoment) {
         EXPECT_FALSE(game.form->Timer1.Enabled() || game.form->Timer2.Enabled());
         game.time.Pass(std::chrono::hours(1));
     }
+}
+
+TEST(StartUp, AWindowClosedAfterItsFirstPaintReadsNoSkins) {
+    GameWindow game;
+    game.form->show();
+    game.form->grab();  // paints it
+    game.form->close();
+    QCoreApplication::processEvents();                               // the skins' turn
+    EXPECT_EQ(game.form->picSkin[0].Contents().drawings.size(), 1);  // the frame of the chosen one
 }
