@@ -71,6 +71,7 @@ struct Totals {
 
 // What broke under `seed`, with the events that are enough for it; empty when nothing did.
 std::string RunSeed(unsigned seed, std::size_t events, Totals& totals) {
+    std::fprintf(stderr, "\rseed %u ", seed);  // the last word before a crash
     const Script script = MakeScript(seed, events);
     {
         Simulation world(seed);
