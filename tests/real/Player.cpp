@@ -53,7 +53,7 @@ Player::Player(int scale, const QString& home, const QString& program) : scale_(
     if (!home.isEmpty()) environment.insert("TESSELOR_HOME", home);
     game_.setProcessEnvironment(environment);
     game_.setProcessChannelMode(QProcess::ForwardedChannels);
-    game_.start(program, {});
+    game_.start(program.isEmpty() ? QStringLiteral(TESSELOR_BUILD "/tesselor") : program, {});
     window_ = std::make_unique<RealWindow>(display_.Name(), "Tesselor");
     const auto isPainted = [this] { return qBlue(window_->Look({5, 200, 1, 1}).pixel(0, 0)) > 20; };
     if (window_->Found()) window_->Await(isPainted);

@@ -12,8 +12,8 @@
 class Player {
 public:
     // scale: the desktop's scale, 1 or 2. home: the program's folder; the one it finds itself when empty.
-    // Scores are kept in a folder of the player's own.
-    explicit Player(int scale, const QString& home = {}, const QString& program = TESSELOR_BUILD "/tesselor");
+    // program: that of the build when empty. Scores are kept in a folder of the player's own.
+    explicit Player(int scale, const QString& home = {}, const QString& program = {});
     ~Player();
 
     // A cell as it is seen: a kind 0..38, nothing, or something that is neither (mid-change).
