@@ -51,10 +51,10 @@ ProgramFolder ProgramFolder::OfUser(const QString& own, const QString& installed
 }
 
 QString ProgramFolder::Path(const QString& name) const {
-    const QString path = PathIn(root_, name);
+    QString path = PathIn(root_, name);
     // A skin that is gone was taken away by the player.
     if (installed_.isEmpty() || name.startsWith(kSkinFolder) || QFileInfo::exists(path)) return path;
-    const QString there = PathIn(installed_, name);
+    QString there = PathIn(installed_, name);
     return QFileInfo::exists(there) ? there : path;
 }
 
