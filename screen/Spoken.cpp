@@ -37,9 +37,10 @@ QString ContentsInWords(const frmGame& form, int cell) {
     if (Kind(box) < 0) return QStringLiteral("empty");
     if (!IsActive(form, cell))
         return IsLocked(form, cell) ? CardInWords(Kind(box)) : QStringLiteral("covered");
-    const QString active = CardInWords(Kind(box)) + QStringLiteral(", active card");
-    if (!HasBox(box, kButtonFace)) return active;
-    return active + QStringLiteral(", shaded, over ") + CardInWords(Kind(form.picTemp));
+    QString active = CardInWords(Kind(box)) + QStringLiteral(", active card");
+    if (HasBox(box, kButtonFace))
+        active += QStringLiteral(", shaded, over ") + CardInWords(Kind(form.picTemp));
+    return active;
 }
 
 QString CellInWords(const frmGame& form, int cell) {
