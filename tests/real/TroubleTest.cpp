@@ -139,6 +139,7 @@ TEST_F(Trouble, ThousandsOfClicksAtOnce) {
         for (int click = 0; click < clicks; ++click)
             player->Click(std::array{kMenu, kMaster, kScore, kPractice, kHelp}[std::size_t(click % 5)]);
         player->Click(kPlay);
+        ASSERT_TRUE(player->Window().Await([&] { return player->IsFramed(12); }, 60s));
         ASSERT_TRUE(player->AwaitTurn());
         LockIn(5);
         LockIn(6);

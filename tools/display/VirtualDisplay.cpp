@@ -36,8 +36,9 @@ void End(QProcess& process) {
 }  // namespace
 
 VirtualDisplay::VirtualDisplay() {
-    // The server chooses a free number and writes it when it is ready for clients.
-    server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1400x1000x24", "-nolisten", "tcp"});
+    // The server chooses a free number and writes it when it is ready for clients. Keys do not repeat: on a
+    // busy machine any press is a long one.
+    server_.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1400x1000x24", "-nolisten", "tcp", "-r"});
     while (!server_.canReadLine())
         if (!server_.waitForReadyRead(20000)) return;
     name_ = ':' + QString::fromLatin1(server_.readLine()).trimmed();
