@@ -67,8 +67,11 @@ void Narrator::TellChanges(Told& told) {
 void Narrator::TellActiveCard() {
     if (standing_.active < 0 || !form_.hasFocus()) return activeCard_.clear();
     PictureBox& cell = form_.picMat[static_cast<std::size_t>(standing_.active)];
-    if (const QString card = cell.access.name(); card != activeCard_) {
-        activeCard_ = card;
+    // The next card may be just like the one before, in the same place.
+    const QString turn = cell.access.name() + form_.picPreview.access.name() + form_.lblCardsLeft.Caption() +
+                         '/' + form_.lblScore.Caption();
+    if (turn != activeCard_) {
+        activeCard_ = turn;
         Tell(&cell, QAccessible::Focus);
     }
 }

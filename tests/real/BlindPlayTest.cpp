@@ -185,10 +185,9 @@ protected:
     ModelScreen rules;
     ReadCards cards;
     clsCard model{rules, cards};
-    bool lockedByTime = false;
 };
 
-// To its end, with a pause in it and a card that is locked because the time is up.
+// To its end, with a pause in it.
 void BlindPlay::PlayGame() {
     ASSERT_NO_FATAL_FAILURE(StartGame());
     for (int turn = 0; !Hears("Game over"); ++turn) {
@@ -205,18 +204,6 @@ void BlindPlay::PlayGame() {
             ASSERT_TRUE(AwaitHearing("says The game goes on."));
             CompareWithModel();
         }
-        if (turn >= 3 && !lockedByTime && model.CurrentCard() < kEraser) {
-            reader->Forget();
-            ASSERT_TRUE(AwaitHearing("A quarter of the time bar is left."));
-            EXPECT_EQ(Named("Time used"), "Time used");
-            ASSERT_TRUE(AwaitHearing("Time is up: locked in r"));
-            ASSERT_NO_FATAL_FAILURE(AwaitTurn());
-            int cell = 0;
-            while (cell < kCells && !Hears("locked in r" + Place(cell) + ".")) ++cell;
-            LockInModel(cell);
-            CompareWithModel();
-            lockedByTime = true;
-        }
     }
 }
 
@@ -224,17 +211,14 @@ TEST_F(BlindPlay, AWholeGameIsReadPressedAndTypedWithoutAScreen) {
     ASSERT_TRUE(AwaitNamed("play"));
     ASSERT_TRUE(Press("menu"));
     ASSERT_TRUE(AwaitNamed("junior"));
-    ASSERT_TRUE(Press("junior"));
     ASSERT_TRUE(Press("sea"));
     ASSERT_TRUE(AwaitNamed("Skin sea"));
     for (const auto& object : reader->Read(kGame))
-        EXPECT_EQ(object.checked, object.name == "junior" || object.name == "sea") << object.name;
-    model.SetLevel(1);
+        EXPECT_EQ(object.checked, object.name == "practice" || object.name == "sea") << object.name;
 
     do {
         ASSERT_NO_FATAL_FAILURE(PlayGame());
     } while (model.Score() == 0);  // nobody is asked for a name then
-    EXPECT_TRUE(lockedByTime);
     EXPECT_GT(rules.gamesOver, 0);
     const std::string score = "Score " + Number(model.Score());
     EXPECT_TRUE(Hears("Game over. " + score)) << score;
@@ -246,6 +230,22 @@ TEST_F(BlindPlay, AWholeGameIsReadPressedAndTypedWithoutAScreen) {
     ASSERT_TRUE(Press("exit"));
     EXPECT_TRUE(game.waitForFinished(10000));
     EXPECT_EQ(game.exitCode(), 0);
+}
+
+TEST_F(BlindPlay, ACardLockedByTimeIsToldAfterAWarning) {
+    ASSERT_TRUE(AwaitNamed("play"));
+    ASSERT_TRUE(Press("menu"));
+    ASSERT_TRUE(AwaitNamed("junior"));
+    ASSERT_TRUE(Press("junior"));
+    model.SetLevel(1);
+    ASSERT_NO_FATAL_FAILURE(StartGame());
+    ASSERT_NO_FATAL_FAILURE(LockIn(5, false));
+    ASSERT_TRUE(AwaitHearing("A quarter of the time bar is left."));
+    ASSERT_TRUE(AwaitHearing("Time is up") || model.CurrentCard() >= kEraser);
+    int cell = 0;
+    while (cell < kCells && !Hears("locked in r" + Place(cell) + ".")) ++cell;
+    if (cell == kCells) return;  // an eraser, which was spent
+    EXPECT_TRUE(AwaitNamed("R" + Place(cell) + ": " + InWords(model.CurrentCard())));
 }
 
 }  // namespace

@@ -21,8 +21,15 @@ std::string Take(char* text) {
 
 using Visitor = std::function<bool(AtspiAccessible*)>;
 
-// Visits `object` and what it holds, until a visit says that it was the last one.
+bool IsShowing(AtspiAccessible* object) {
+    const auto states = Hold(atspi_accessible_get_state_set(object));
+    return atspi_state_set_contains(states.get(), ATSPI_STATE_SHOWING);
+}
+
+// Visits `object` and what it holds, until a visit says that it was the last one. What is hidden holds
+// nothing.
 bool Visit(AtspiAccessible* object, const Visitor& visit) {
+    if (!IsShowing(object)) return false;
     if (visit(object)) return true;
     const int children = atspi_accessible_get_child_count(object, nullptr);
     for (int i = 0; i < children; ++i)
