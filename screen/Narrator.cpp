@@ -43,6 +43,7 @@ void Narrator::Look() {
     const Standing now = Stands();
     const QStringList news = News(now);
     standing_ = now;
+    timeIsUp_ = false;
     if (!news.isEmpty()) Say(news.join(u' '));
     TellActiveCard();
 }
@@ -90,18 +91,20 @@ Narrator::Standing Narrator::Stands() const {
     return now;
 }
 
+QString Narrator::TimedLock(const Standing& now) const {
+    for (int cell = 0; cell < kCells; ++cell)
+        if (now.locked[std::size_t(cell)] && !standing_.locked[std::size_t(cell)])
+            return QStringLiteral("Time is up: locked in %1.").arg(PlaceInWords(cell));
+    return QStringLiteral("Time is up.");  // the card has completed a line, or was an eraser
+}
+
 QStringList Narrator::News(const Standing& now) const {
     QStringList news;
     const Standing& before = standing_;
     const bool wasOn = before.play == frmGame::Play::On, isOn = now.play == frmGame::Play::On;
-    if (wasOn && isOn) {
-        // A card that was locked elsewhere than where it was.
-        for (int cell = 0; cell < kCells; ++cell)
-            if (now.locked[std::size_t(cell)] && !before.locked[std::size_t(cell)] && cell != before.active)
-                news += QStringLiteral("Time is up: locked in %1.").arg(PlaceInWords(cell));
-        if (before.percent < kRunningOut && now.percent >= kRunningOut)
-            news += QStringLiteral("A quarter of the time bar is left.");
-    }
+    if (timeIsUp_) news += TimedLock(now);
+    if (wasOn && isOn && before.percent < kRunningOut && now.percent >= kRunningOut)
+        news += QStringLiteral("A quarter of the time bar is left.");
     if (now.score > before.score)
         news += QStringLiteral("Line scored: %1 points.").arg(QLocale().toString(now.score - before.score));
     if (wasOn && now.play == frmGame::Play::Paused) news += QStringLiteral("Paused.");

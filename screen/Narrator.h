@@ -17,6 +17,8 @@ public:
 
     // Tells what is new. Runs by itself.
     void Look();
+    // The lock that is going on was the time's and not the player's.
+    void TimeIsUp() { timeIsUp_ = true; }
 
 private:
     // A control, with what was last told of it.
@@ -38,12 +40,14 @@ private:
     static void TellChanges(Told& told);
     void TellActiveCard();
     [[nodiscard]] Standing Stands() const;
+    [[nodiscard]] QString TimedLock(const Standing& now) const;
     [[nodiscard]] QStringList News(const Standing& now) const;
     void Say(const QString& sentence);
 
     frmGame& form_;
     std::vector<Told> told_;
     Standing standing_;
+    bool timeIsUp_ = false;  // and not told yet
     QString activeCard_;
     Control<QWidget> news_;  // a spot nobody sees; its name is what was said last
     QString said_;

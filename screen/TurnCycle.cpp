@@ -4,7 +4,7 @@
 
 #include "model/Levels.h"
 #include "model/SaturatedSum.h"
-#include "screen/frmGame.h"
+#include "screen/Narrator.h"
 #include "shell/mdlSound.h"
 
 namespace {
@@ -108,6 +108,7 @@ void frmGame::Resume() {
 void frmGame::Timer1_Timer() {
     Game().RndAction(true);
     GiveBackActiveCell();
+    narrator_->TimeIsUp();
     Game().PutInRndPlace();
     if (play == Play::On) Game().RndAction(false);
 }

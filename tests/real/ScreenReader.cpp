@@ -127,6 +127,7 @@ struct ScreenReader::Listener {
 
 ScreenReader::ScreenReader() {
     atspi_init();
+    atspi_set_timeout(20'000, 20'000);  // milliseconds: a press may end a game, which takes its time
     Announce();
     listener_ = std::make_unique<Listener>(*this);
 }
