@@ -246,9 +246,9 @@ TEST_F(BlindPlay, ACardLockedByTimeIsToldAfterAWarning) {
     int cell = 0;
     while (cell < kCells && !Hears("locked in r" + Place(cell) + ".")) ++cell;
     ASSERT_TRUE(cell < kCells || model.CurrentCard() >= kEraser);
-    if (cell < kCells) {
-        EXPECT_TRUE(AwaitNamed("R" + Place(cell) + ": " + InWords(model.CurrentCard())));
-    }
+    // In the start cell the next card lies over it.
+    const std::string locked = InWords(model.CurrentCard());
+    EXPECT_TRUE(cell == kCells || reader->Await([&] { return Named("R" + Place(cell)).ends_with(locked); }));
 }
 
 }  // namespace

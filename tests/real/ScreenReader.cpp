@@ -163,12 +163,13 @@ bool ScreenReader::Await(const std::function<bool()>& holds) const {
     bool late = false;
     const guint timer = g_timeout_add_seconds(
         30, [](void* flag) { return *static_cast<bool*>(flag) = true, G_SOURCE_REMOVE; }, &late);
-    bool held = holds();
-    while (!held && !late) {
+    bool held = false;
+    do {
+        // What is heard while it is being looked counts: the look may have come too early for it.
         const unsigned before = events_;
-        g_main_context_iteration(nullptr, TRUE);
-        if (events_ != before) held = holds();
-    }
+        held = holds();
+        while (!held && !late && events_ == before) g_main_context_iteration(nullptr, TRUE);
+    } while (!held && !late);
     if (!late) g_source_remove(timer);
     return held;
 }
