@@ -66,13 +66,13 @@ void Narrator::TellChanges(Told& told) {
 
 // While the board has the keyboard, its active card is where the player is.
 void Narrator::TellActiveCard() {
-    if (standing_.active < 0 || !form_.hasFocus()) return activeCard_.clear();
+    if (standing_.active < 0 || !form_.hasFocus()) return turn_.clear();
     PictureBox& cell = form_.picMat[static_cast<std::size_t>(standing_.active)];
     // The next card may be just like the one before, in the same place.
     const QString turn = cell.access.name() + form_.picPreview.access.name() + form_.lblCardsLeft.Caption() +
                          '/' + form_.lblScore.Caption();
-    if (turn != activeCard_) {
-        activeCard_ = turn;
+    if (turn != turn_) {
+        turn_ = turn;
         Tell(&cell, QAccessible::Focus);
     }
 }

@@ -48,7 +48,7 @@ private:
     std::vector<Told> told_;
     Standing standing_;
     bool timeIsUp_ = false;  // and not told yet
-    QString activeCard_;
+    QString turn_;
     Control<QWidget> news_;  // a spot nobody sees; its name is what was said last
     QString said_;
 };
