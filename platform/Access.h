@@ -11,10 +11,10 @@ struct Access {
     QAccessible::Role role = QAccessible::NoRole;  // none: decoration, which is left out
     // What it is or shows, as one would say it. A control with a role but without this is described by the
     // toolkit.
-    std::function<QString()> name;
-    std::function<void()> press;   // what a click does; empty when it cannot be pressed
-    std::function<bool()> chosen;  // whether it is the chosen one of several; empty when there is no choice
-    std::function<int()> percent;  // how far it has gone, 0..100; empty when nothing goes on
+    std::function<QString()> name{};
+    std::function<void()> press{};   // what a click does; empty when it cannot be pressed
+    std::function<bool()> chosen{};  // whether it is the chosen one of several; empty when there is no choice
+    std::function<int()> percent{};  // how far it has gone, 0..100; empty when nothing goes on
 };
 
 // The base of all controls that can be described.

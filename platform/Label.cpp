@@ -4,7 +4,7 @@
 
 Label::Label(QWidget* parent, const Placement& placement)
     : Pressable<QWidget>(parent, placement), caption_(placement.caption) {
-    access = {QAccessible::StaticText, [this] { return Caption().simplified(); }, {}, {}, {}};
+    access = {QAccessible::StaticText, [this] { return Caption().simplified(); }};
 }
 
 void Label::Caption(const QString& caption) {

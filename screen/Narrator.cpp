@@ -28,7 +28,7 @@ void TellChoice(QWidget* control, QAccessible::Role role) {
 Narrator::Narrator(frmGame& form)
     : form_(form), news_(&form, {QStringLiteral("news"), {0, 0, kTwipsPerPixel, kTwipsPerPixel}, {}}) {
     news_.setAttribute(Qt::WA_TransparentForMouseEvents);
-    news_.access = {QAccessible::Notification, [this] { return said_; }, {}, {}, {}};
+    news_.access = {QAccessible::Notification, [this] { return said_; }};
     for (QWidget* control : form.findChildren<QWidget*>())
         if (const Access* access = AccessOf(control); access && access->name && control != &news_)
             told_.push_back({control, *access, {}});

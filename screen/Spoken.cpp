@@ -103,7 +103,7 @@ bool IsLocked(const frmGame& form, int cell) {
 }
 
 void frmGame::DescribeControls() {
-    access = {QAccessible::Window, Fixed("Tesselor"), {}, {}, {}};
+    access = {QAccessible::Window, Fixed("Tesselor")};
     DescribeBoard();
     DescribeMenu();
     DescribeScreens();
@@ -112,16 +112,14 @@ void frmGame::DescribeControls() {
 }
 
 void frmGame::DescribeBoard() {
-    fraScreen[0].access = {QAccessible::List, [this] { return BoardInWords(*this); }, {}, {}, {}};
+    fraScreen[0].access = {QAccessible::List, [this] { return BoardInWords(*this); }};
     for (std::size_t i = 0; i < picMat.size(); ++i) {
         const int cell = static_cast<int>(i);
-        picMat[i].access = {QAccessible::ListItem,
-                            [this, cell] { return CellInWords(*this, cell); },
+        picMat[i].access = {QAccessible::ListItem, [this, cell] { return CellInWords(*this, cell); },
                             [this, cell] { LockInCell(static_cast<std::int16_t>(cell)); },
-                            [this, cell] { return IsActive(*this, cell); },
-                            {}};
+                            [this, cell] { return IsActive(*this, cell); }};
     }
-    picPreview.access = {QAccessible::Graphic, [this] { return NextCardInWords(*this); }, {}, {}, {}};
+    picPreview.access = {QAccessible::Graphic, [this] { return NextCardInWords(*this); }};
     lblScore.access.name = [this] { return QStringLiteral("Score ") + lblScore.Caption(); };
     lblCardsLeft.access.name = [this] { return CardsLeftInWords(*this); };
     prbTime.access = {
@@ -134,18 +132,13 @@ void frmGame::DescribeMenu() {
                                         "Opens the rules of the game"};
     for (std::size_t i = 0; i < imgButton.size(); ++i) {
         const auto index = static_cast<std::int16_t>(i);
-        imgButton[i].access = {QAccessible::PushButton,
-                               [this, i] { return lblCaption[i].Caption(); },
-                               [this, index] { imgButton_Click(index); },
-                               {},
-                               {}};
+        imgButton[i].access = {QAccessible::PushButton, [this, i] { return lblCaption[i].Caption(); },
+                               [this, index] { imgButton_Click(index); }};
         imgButton[i].setAccessibleDescription(QLatin1String(kActions[i]));
     }
-    Image1.access = {QAccessible::PushButton, Fixed("exit"), [this] { Image1_Click(); }, {}, {}};
-    imgMinimaize.access = {
-        QAccessible::PushButton, Fixed("minimise"), [this] { imgMinimaize_Click(); }, {}, {}};
-    imgWebLink.access = {
-        QAccessible::Link, [] { return Links::kHomeText; }, [this] { imgWebLink_Click(); }, {}, {}};
+    Image1.access = {QAccessible::PushButton, Fixed("exit"), [this] { Image1_Click(); }};
+    imgMinimaize.access = {QAccessible::PushButton, Fixed("minimise"), [this] { imgMinimaize_Click(); }};
+    imgWebLink.access = {QAccessible::Link, [] { return Links::kHomeText; }, [this] { imgWebLink_Click(); }};
     const auto describeLink = [](Label& link, std::function<void()> open) {
         link.access.role = QAccessible::Link;
         link.access.press = std::move(open);
@@ -158,22 +151,20 @@ void frmGame::DescribeMenu() {
 void frmGame::DescribeScreens() {
     constexpr const char* kScreens[] = {"levels and skins", "help", "high scores"};
     for (std::size_t i = 1; i < fraScreen.size(); ++i)
-        fraScreen[i].access = {QAccessible::Grouping, Fixed(kScreens[i - 1]), {}, {}, {}};
-    Picture3.access = {QAccessible::Grouping, [this] { return Label6.Caption().trimmed(); }, {}, {}, {}};
+        fraScreen[i].access = {QAccessible::Grouping, Fixed(kScreens[i - 1])};
+    Picture3.access = {QAccessible::Grouping, [this] { return Label6.Caption().trimmed(); }};
     for (std::size_t i = 0; i < lblClass.size(); ++i) {
         const auto level = static_cast<std::int16_t>(i);
         lblClass[i].access.role = QAccessible::RadioButton;
         lblClass[i].access.press = [this, level] { lblClass_Click(level); };
         lblClass[i].access.chosen = [this, level] { return CurrentLevel == level; };
     }
-    Picture1.access = {QAccessible::Grouping, [this] { return Label7.Caption(); }, {}, {}, {}};
+    Picture1.access = {QAccessible::Grouping, [this] { return Label7.Caption(); }};
     for (std::size_t i = 0; i < picSkin.size(); ++i) {
         const auto slot = static_cast<std::int16_t>(i);
-        picSkin[i].access = {QAccessible::RadioButton,
-                             [this, i] { return SkinInWords(*this, i); },
+        picSkin[i].access = {QAccessible::RadioButton, [this, i] { return SkinInWords(*this, i); },
                              [this, slot] { picSkin_MouseUp(slot, kLeftButton, 0, 0, 0); },
-                             [this, slot] { return slot < SkinCount && CurrentSkin == slot; },
-                             {}};
+                             [this, slot] { return slot < SkinCount && CurrentSkin == slot; }};
     }
     lblSkinName.access.name = [this] { return QStringLiteral("Skin ") + lblSkinName.Caption(); };
     for (std::size_t row = 0; row < lblName.size(); ++row) {
@@ -189,5 +180,5 @@ void frmGame::DescribeScreens() {
     lblHelpText2.access.name = Fixed("Move the card: arrow keys or mouse");
     lblHelpText3.access.name = Fixed("Lock the card: space bar or left mouse button");
     lblHelpText4.access.name = Fixed("Pause and resume: P or right mouse button");
-    picEnterName.access = {QAccessible::Dialog, [this] { return Label3.Caption(); }, {}, {}, {}};
+    picEnterName.access = {QAccessible::Dialog, [this] { return Label3.Caption(); }};
 }

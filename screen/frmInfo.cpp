@@ -60,13 +60,10 @@ frmInfo::frmInfo(QWidget* owner, const ProgramFolder& folder)
         imgButton_MouseMove(in.button, in.shift, in.x, in.y);
     };
     imgButton.onClick = [this] { imgButton_Click(); };
-    access = {QAccessible::Dialog, [] { return QStringLiteral("The rules of the game"); }, {}, {}, {}};
+    access = {QAccessible::Dialog, [] { return QStringLiteral("The rules of the game"); }};
     lblCaption.access = {};
-    imgButton.access = {QAccessible::PushButton,
-                        [this] { return lblCaption.Caption(); },
-                        [this] { imgButton_Click(); },
-                        {},
-                        {}};
+    imgButton.access = {QAccessible::PushButton, [this] { return lblCaption.Caption(); },
+                        [this] { imgButton_Click(); }};
     imgButton.setFocusPolicy(Qt::TabFocus);
     Text1.setTabChangesFocus(true);
     Form_Load(folder);

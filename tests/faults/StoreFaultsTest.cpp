@@ -76,7 +76,7 @@ TEST(StoreFaults, AFailedCallLosesNothing) {
         const QByteArray before = store.Bytes();
         EXPECT_EQ(store.EnterWithFault(call, QStringLiteral("error=") + fault->second), 0);
         const Four scores = store.Scores();
-        const bool setAside = StoreFile::BytesOf(store.firstAside) == before;
+        const bool setAside = ReadFile(store.firstAside) == before;
         EXPECT_TRUE(setAside || scores == kBefore || scores == kAfter) << store.Bytes().toStdString();
         EXPECT_TRUE(!setAside || call.name == "read" || call.name == "openat");
         store.Enter({"999"});

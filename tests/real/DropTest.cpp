@@ -9,12 +9,6 @@
 
 namespace {
 
-constexpr QPoint kMenu(366, 216), kFirstSlot(192, 120);
-
-QPoint Slot(int slot) {
-    return kFirstSlot + QPoint(slot % 3 * 42, slot / 3 * 44);
-}
-
 class RealDrop : public testing::Test {
 protected:
     RealDrop() {
@@ -32,7 +26,7 @@ protected:
         ASSERT_TRUE(player->Window().Found());
         player->Window().MoveTo({100, 100});
         const QImage before = player->Window().Look();
-        player->Click(kMenu);
+        player->Click(Spot::kMenu);
         ASSERT_TRUE(player->AwaitChange(before));
     }
     // Drags `file` from the other program's window to a slot and lets it go there.
@@ -41,7 +35,8 @@ protected:
         source.start(TESSELOR_BUILD "/tests/real/drag_source", {file});
         RealWindow from(player->Display().Name(), "Source");
         ASSERT_TRUE(from.Found());
-        const QPoint target = player->Window().OnScreen().topLeft() + Slot(slot) - from.OnScreen().topLeft();
+        const QPoint target =
+            player->Window().OnScreen().topLeft() + Spot::Slot(slot).center() - from.OnScreen().topLeft();
         from.MoveMouse({100, 100});
         from.Press(1);
         for (int step = 1; step <= 20; ++step)

@@ -10,18 +10,7 @@
 
 namespace {
 
-// Where the controls are, in pixels.
-constexpr QRect kPlay(348, 244, 37, 36), kMenu(348, 198, 39, 38), kScore(348, 154, 39, 37),
-    kHelp(348, 106, 39, 38);
-constexpr QRect kMinimise(355, 2, 17, 19), kExit(376, 2, 17, 19);
-constexpr QRect kDemo(204, 284, 51, 23), kMore(108, 284, 51, 23), kPill(266, 72, 40, 22);
-
-QRect Level(int level) {
-    return {86, 105 + 24 * level, 70, 18};
-}
-QRect Slot(int slot) {
-    return {172 + slot % 3 * 42, 100 + slot / 3 * 44, 39, 41};
-}
+using namespace Spot;
 
 class Keyboard : public testing::Test {
 protected:
@@ -100,7 +89,7 @@ TEST_F(Keyboard, ASessionFromTheFirstKeyToTheLast) {
     player.Photograph("keyboard-scores");
 
     Go("Tab", kMenu), Go("Up", kScore), Go("Up", kHelp), PressAndSee("Return");
-    Go("Left", kPill), Go("Down", kDemo), Go("Left", kMore);
+    Go("Left", kMore), Go("Down", kDemo), Go("Left", kMoreButton);
     player.Window().Key("Return");
     RealWindow rules(player.Display().Name(), "Tesselor", &player.Window());
     ASSERT_TRUE(rules.Found());

@@ -66,7 +66,8 @@ Player::~Player() {
 }
 
 QRect Player::Cell(int cell) const {
-    return {(53 + cell % 4 * 66) * scale_, (63 + cell / 4 * 66) * scale_, 60 * scale_, 60 * scale_};
+    const QRect place = Spot::Cell(cell);
+    return {place.topLeft() * scale_, place.size() * scale_};
 }
 
 int Player::CardAt(int cell) const {
@@ -149,7 +150,7 @@ void Player::Photograph(const char* name) const {
 }
 
 int Player::Leave() {
-    Click({384, 11});
+    Click(Spot::kExit);
     return AwaitEnd();
 }
 

@@ -5,6 +5,7 @@
 
 #include "platform/PictureSheet.h"
 #include "tools/display/RealWindow.h"
+#include "tools/display/Spots.h"
 #include "tools/display/VirtualDisplay.h"
 
 // A player before the real window: starts the game on a display of its own, recognises cards by their
@@ -37,7 +38,8 @@ public:
     // False when the mouse is in the cell already: the game takes no notice then.
     bool MoveByMouse(int to);
     void Click(QPoint at, unsigned button = 1) const { window_->Click(at * scale_, button); }
-    void ClickCell(int cell, unsigned button = 1) const { Click(Cell(cell).center() / scale_, button); }
+    void Click(const QRect& control) const { Click(control.center()); }
+    void ClickCell(int cell, unsigned button = 1) const { Click(Spot::Cell(cell).center(), button); }
     // Saves what is shown as <TESSELOR_SHOTS>/<name>@<scale>.png, when that folder is named.
     void Photograph(const char* name) const;
 

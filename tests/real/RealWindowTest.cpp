@@ -12,18 +12,17 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr QPoint kPlay(366, 262), kMenu(366, 216), kHelp(366, 125), kMaster(115, 207), kBackground(345, 80);
 class RealWindow_ : public testing::TestWithParam<int> {
 protected:
     void SetUp() override { ASSERT_TRUE(player.Window().Found()); }
 
-    void ClickAndSee(QPoint at) {
+    void ClickAndSee(const QRect& control) {
         const QImage before = player.Window().Look();
-        player.Click(at);
+        player.Click(control);
         ASSERT_TRUE(player.AwaitChange(before));
     }
     void StartGame() {
-        ClickAndSee(kPlay);
+        ClickAndSee(Spot::kPlay);
         ASSERT_TRUE(player.AwaitTurn());
     }
     // Locks the active card by the space key or a click, and waits for the next turn.
@@ -63,7 +62,7 @@ TEST_P(RealWindow_, IsPlayedByKeysAndMouseThroughPauseAndHelp) {
     player.Window().Key("p");
     ASSERT_TRUE(player.Window().Await([&] { return player.Board() == board; }));
 
-    ClickAndSee(kHelp);
+    ClickAndSee(Spot::kHelp);
     StartGame();
     EXPECT_EQ(player.Leave(), 0);
 }
@@ -97,12 +96,12 @@ TEST_P(RealWindow_, IsMovedByItsBackgroundWithAnyButton) {
     RealWindow& window = player.Window();
     for (const unsigned button : {1u, 2u, 3u}) {
         const QRect before = window.Place();
-        window.MoveMouse(kBackground);
+        window.MoveMouse(Spot::kBackground);
         window.Press(button);
         const auto hasMoved = [&] { return window.Place() != before; };
         // The window manager takes over some time after the first motion, and then wants to see another.
         for (int step = 1; step < 100 && !hasMoved(); ++step) {
-            window.MoveMouse(kBackground + QPoint(2 * step, step));
+            window.MoveMouse(Spot::kBackground + QPoint(2 * step, step));
             window.Await(hasMoved, 50ms);
         }
         EXPECT_TRUE(hasMoved()) << "button " << button;
@@ -112,8 +111,8 @@ TEST_P(RealWindow_, IsMovedByItsBackgroundWithAnyButton) {
 }
 
 TEST_P(RealWindow_, AtMasterLevelTheTimerLocksAndFillsTheBoardToTheEnd) {
-    ClickAndSee(kMenu);
-    ClickAndSee(kMaster);
+    ClickAndSee(Spot::kMenu);
+    ClickAndSee(Spot::Level(4));
     player.Photograph("levels");
     StartGame();
     LockAt(6, false);

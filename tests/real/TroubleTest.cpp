@@ -14,9 +14,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr QPoint kPlay(366, 262), kMenu(366, 216), kScore(366, 172), kHelp(366, 125);
-constexpr QPoint kPractice(115, 112), kMaster(115, 207);
-
 // The sanitizers keep what was freed, and end a program that has no memory.
 #if defined(__has_feature)
 constexpr bool kSanitized = __has_feature(address_sanitizer);
@@ -31,13 +28,13 @@ protected:
         ASSERT_TRUE(player->Window().Found());
         player->Window().Focus();
     }
-    void ClickAndSee(QPoint at) {
+    void ClickAndSee(const QRect& control) {
         const QImage before = player->Window().Look();
-        player->Click(at);
+        player->Click(control);
         ASSERT_TRUE(player->AwaitChange(before));
     }
     void StartGame() {
-        ClickAndSee(kPlay);
+        ClickAndSee(Spot::kPlay);
         ASSERT_TRUE(player->AwaitTurn());
     }
     void LockIn(int cell) {
@@ -70,8 +67,8 @@ protected:
 // Away for longer than a lock time, as in a laptop that was closed: one card is locked late, and no more.
 TEST_F(Trouble, SuspendedWithTheTimerRunning) {
     Open();
-    ClickAndSee(kMenu);
-    ClickAndSee(kMaster);
+    ClickAndSee(Spot::kMenu);
+    ClickAndSee(Spot::Level(4));
     StartGame();
     LockIn(5);
     player->MoveByKeys(12);
@@ -98,14 +95,14 @@ TEST_F(Trouble, AllFoldersRemovedDuringAGame) {
     QDir(home.path()).removeRecursively();
     QDir(player->Display().Environment().value("XDG_CONFIG_HOME")).removeRecursively();
     LockIn(6);
-    player->Click(kPlay);  // has no skin to load any more, and says so
+    player->Click(Spot::kPlay);  // has no skin to load any more, and says so
     const RealWindow box(player->Display().Name(), "Tesselor", &player->Window());
     ASSERT_TRUE(box.Found());
     box.Focus();
     const QImage told = player->Window().Look();
     box.Key("Return");
     ASSERT_TRUE(player->AwaitChange(told));
-    ClickAndSee(kScore);
+    ClickAndSee(Spot::kScore);
     EXPECT_EQ(player->Leave(), 0);
 }
 
@@ -121,7 +118,7 @@ TEST_F(Trouble, NoMemoryForTheSkin) {
     const auto process = pid_t(player->Process());
     const rlimit tight{rlim_t(Kilobytes("VmSize:") + 20'000) * 1024, RLIM_INFINITY};
     ASSERT_EQ(prlimit(process, RLIMIT_AS, &tight, &before), 0);
-    player->Click(kPlay);
+    player->Click(Spot::kPlay);
     const RealWindow box(player->Display().Name(), "Tesselor", &player->Window());
     ASSERT_TRUE(box.Found());
     prlimit(process, RLIMIT_AS, &before, nullptr);
@@ -137,8 +134,9 @@ TEST_F(Trouble, ThousandsOfClicksAtOnce) {
     Open();
     const auto burst = [&](int clicks) {
         for (int click = 0; click < clicks; ++click)
-            player->Click(std::array{kMenu, kMaster, kScore, kPractice, kHelp}[std::size_t(click % 5)]);
-        player->Click(kPlay);
+            player->Click(std::array{Spot::kMenu, Spot::Level(4), Spot::kScore, Spot::Level(0),
+                                     Spot::kHelp}[std::size_t(click % 5)]);
+        player->Click(Spot::kPlay);
         ASSERT_TRUE(player->Window().Await([&] { return player->IsFramed(12); }, 60s));
         ASSERT_TRUE(player->AwaitTurn());
         LockIn(5);

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include "platform/RegistryHive.h"
 #include "shell/mdlRegistry.h"
+#include "tests/support/Files.h"
 
 // A string store in a folder of its own, in force while it lives.
 class StoreFile {
@@ -16,15 +16,8 @@ public:
     }
     ~StoreFile() { mdlRegistry::Hive(nullptr); }
 
-    [[nodiscard]] static QByteArray BytesOf(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    [[nodiscard]] QByteArray Bytes() const { return BytesOf(path); }
-    void Write(const QByteArray& bytes) const {
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly)) file.write(bytes);
-    }
+    [[nodiscard]] QByteArray Bytes() const { return ReadFile(path); }
+    void Write(const QByteArray& bytes) const { WriteFile(path, bytes); }
 
     QTemporaryDir folder;
     QString path = folder.filePath(QStringLiteral("store.txt"));

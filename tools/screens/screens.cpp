@@ -9,20 +9,15 @@
 
 #include "platform/RegistryHive.h"
 #include "tools/display/RealWindow.h"
+#include "tools/display/Spots.h"
 #include "tools/display/VirtualDisplay.h"
 
 namespace {
 
 using namespace std::chrono_literals;
 
-// In logical pixels.
-constexpr QPoint kPlay(366, 262), kMenu(366, 216), kScore(366, 172), kMore(286, 82), kNowhere(330, 80);
-constexpr QPoint kJunior(110, 135), kExpert(115, 183), kNamePanel(100, 200);
+constexpr QPoint kNamePanel(100, 200);  // in logical pixels
 constexpr QRgb kNamePanelColour = 0xFFE0E0E0;
-
-QPoint Cell(int cell) {
-    return {83 + cell % 4 * 66, 93 + cell / 4 * 66};
-}
 
 // The game in its window, which is found and painted; ends with this.
 class Game {
@@ -52,7 +47,9 @@ public:
     void Click(QPoint at, std::chrono::milliseconds time = 300ms) const {
         window_->Click(InDevice(at)), Settle(time);
     }
-    void Lock(int cell) const { MoveMouse(Cell(cell)), Click(Cell(cell)), Settle(600ms); }
+    void Lock(int cell) const {
+        MoveMouse(Spot::Cell(cell).center()), Click(Spot::Cell(cell).center()), Settle(600ms);
+    }
     [[nodiscard]] RealWindow& Window() const { return *window_; }
     [[nodiscard]] bool AsksForName() const {
         return window_->Look({InDevice(kNamePanel), QSize(1, 1)}).pixel(0, 0) == kNamePanelColour;
@@ -96,27 +93,27 @@ void WriteScores(const VirtualDisplay& display) {
 }
 
 void ShootScreens(const Game& game) {
-    game.MoveMouse(kNowhere);
+    game.MoveMouse(Spot::kBackground);
     game.Shoot("help");
-    game.MoveMouse(kPlay);
+    game.MoveMouse(Spot::kPlay.center());
     game.Shoot("key-hovered");
     game.Window().Press(1);
     game.Settle();
     game.Shoot("key-pressed");
-    game.MoveMouse(kNowhere);  // and is not clicked
+    game.MoveMouse(Spot::kBackground);  // and is not clicked
     game.Window().Release(1);
-    game.Click(kMenu);
-    game.Click(kJunior);
-    game.MoveMouse(kNowhere);
+    game.Click(Spot::kMenu.center());
+    game.Click(Spot::Level(1).center());
+    game.MoveMouse(Spot::kBackground);
     game.Shoot("levels");
-    game.MoveMouse(kExpert);
+    game.MoveMouse(Spot::Level(3).center());
     game.Window().Press(1);
     game.Settle();
     game.Shoot("level-pressed");
-    game.MoveMouse(kNowhere);
+    game.MoveMouse(Spot::kBackground);
     game.Window().Release(1);
-    game.Click(kScore);
-    game.MoveMouse(kNowhere);
+    game.Click(Spot::kScore.center());
+    game.MoveMouse(Spot::kBackground);
     game.Shoot("scores");
     game.Window().Focus();
     game.Window().Key("Tab");
@@ -125,11 +122,11 @@ void ShootScreens(const Game& game) {
 }
 
 void ShootBoard(const Game& game) {
-    game.Click(kPlay);
+    game.Click(Spot::kPlay.center());
     for (const int cell : {5, 10, 3, 0, 9, 6}) game.Lock(cell);
-    game.MoveMouse(Cell(1));
+    game.MoveMouse(Spot::Cell(1).center());
     game.Shoot("board");
-    game.MoveMouse(Cell(10));
+    game.MoveMouse(Spot::Cell(10).center());
     game.Shoot("card-over-card");
     game.Window().Key("p");
     game.Settle(1500ms);
@@ -139,8 +136,8 @@ void ShootBoard(const Game& game) {
 // Locks cards wherever they go until a game ends with points.
 void ShootNameEntry(const Game& game) {
     for (int lock = 0; lock < 400 && !game.AsksForName(); ++lock) {
-        if (lock % 80 == 0) game.Click(kPlay);
-        game.Click(Cell(lock % 16), 150ms);
+        if (lock % 80 == 0) game.Click(Spot::kPlay.center());
+        game.Click(Spot::Cell(lock % 16).center(), 150ms);
     }
     game.Settle(1500ms);
     if (game.AsksForName()) game.Shoot("name-entry");
@@ -149,12 +146,12 @@ void ShootNameEntry(const Game& game) {
 void ShootDialogs(const VirtualDisplay& display, double scale, const QDir& shots) {
     {
         const Game game(display, scale, shots);
-        game.Click(kMore);
+        game.Click(Spot::kMore.center());
         game.ShootDialog("information");
     }
     const QTemporaryDir empty;
     const Game withoutSkins(display, scale, shots, empty.path());
-    withoutSkins.Click(kPlay);
+    withoutSkins.Click(Spot::kPlay.center());
     withoutSkins.ShootDialog("message");
 }
 

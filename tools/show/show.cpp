@@ -8,13 +8,13 @@
 #include <cstdio>
 
 #include "tools/display/RealWindow.h"
+#include "tools/display/Spots.h"
 #include "tools/display/VirtualDisplay.h"
 
 namespace {
 
 using namespace std::chrono_literals;
 
-constexpr QPoint kDemo(229, 294), kNowhere(330, 80);
 constexpr auto kStep = 300ms;  // the demonstration's own
 
 // Lets the game go on for that long.
@@ -36,9 +36,9 @@ bool ShootDemonstration(const QDir& folder, int pictures) {
     const RealWindow window(display.Name(), "Tesselor");
     bool all = window.Found();
     Watch(window, 1s);
-    window.Click(kDemo);
+    window.Click(Spot::kDemo.center());
     Watch(window, kStep);
-    window.MoveMouse(kNowhere);
+    window.MoveMouse(Spot::kBackground);
     for (int number = 0; all && number < pictures; ++number) {
         Watch(window, kStep);
         all = Shoot(window, folder, number);
