@@ -40,6 +40,7 @@ void frmGame::FinishSkinSlots() {
             continue;
         }
         picSkin[static_cast<std::size_t>(slot)].PaintPicture(PicClipTemp.Thumbnail(), kThumbnailCorner);
+        PicClipTemp = {};  // the other cards of a skin are not needed for its slot
         ++slot;
     }
     OrderSkinSlots();
@@ -54,6 +55,7 @@ void frmGame::FillSlot(std::int16_t slot, const QString& file) {
     PictureBox& box = picSkin[static_cast<std::size_t>(slot)];
     box.Clear();
     box.PaintPicture(PicClipTemp.Thumbnail(), kThumbnailCorner);
+    PicClipTemp = {};
     if (slot >= SkinCount && static_cast<std::size_t>(SkinCount) < picSkin.size()) ++SkinCount;
     OrderSkinSlots();
 }
