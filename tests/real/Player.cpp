@@ -158,6 +158,11 @@ int Player::AwaitEnd() {
     return game_.waitForFinished(10000) ? game_.exitCode() : -1;
 }
 
+void Player::EndWindowManager() {
+    display_.EndWindowManager();
+    window_->Focus();
+}
+
 void Player::KillDisplay() {
     window_.reset();
     display_.Kill();

@@ -132,10 +132,12 @@ TEST_F(Trouble, NoMemoryForTheSkin) {
 
 TEST_F(Trouble, ThousandsOfClicksAtOnce) {
     Open();
-    const auto burst = [&](int clicks) {
+    player->EndWindowManager();
+    constexpr int clicks = kSanitized ? 200 : 2000;
+    const auto burst = [&] {
         for (int click = 0; click < clicks; ++click)
-            player->Click(std::array{Spot::kMenu, Spot::Level(4), Spot::kScore, Spot::Level(0),
-                                     Spot::kHelp}[std::size_t(click % 5)]);
+            player->Click(std::array{Spot::kMenu, Spot::Level(4), Spot::kScore, Spot::kMenu, Spot::Level(0),
+                                     Spot::kHelp}[std::size_t(click % 6)]);
         player->Click(Spot::kPlay);
         ASSERT_TRUE(player->Window().Await([&] { return player->IsFramed(12); }, 60s));
         ASSERT_TRUE(player->AwaitTurn());
@@ -145,10 +147,10 @@ TEST_F(Trouble, ThousandsOfClicksAtOnce) {
         player->Window().Key("p");
         ASSERT_TRUE(player->Window().Await([&] { return player->IsCovered(); }));
     };
-    burst(200);
+    burst();  // as much at once takes as much room as before
     const qint64 memory = Kilobytes("VmRSS:");
     const int files = OpenFiles();
-    burst(kSanitized ? 200 : 2000);
+    burst();
     const qint64 grown = Kilobytes("VmRSS:") - memory;
     EXPECT_TRUE(kSanitized || grown < memory / 10) << grown;
     EXPECT_LE(OpenFiles(), files + 4);  // one connection for sound more or less

@@ -47,8 +47,12 @@ VirtualDisplay::VirtualDisplay() {
     if (windowManager_.waitForStarted()) AwaitWindowManager(name_);
 }
 
-VirtualDisplay::~VirtualDisplay() {
+void VirtualDisplay::EndWindowManager() {
     End(windowManager_);
+}
+
+VirtualDisplay::~VirtualDisplay() {
+    EndWindowManager();
     End(server_);
 }
 
