@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t kEvents = 400;  // in a world
 #ifdef NDEBUG
-constexpr unsigned kSeeds = 70;
+constexpr unsigned kSeeds = 300;
 constexpr long kMorePages = 1000;
 #else  // the sanitizers take several times as long, and keep what was released
 constexpr unsigned kSeeds = 12;
