@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QHelpEvent>
 #include <QTest>
+#include <QToolTip>
 
 #include "tests/support/GameWindow.h"
 #include "tests/support/StoreFile.h"
@@ -125,8 +127,15 @@ TEST(HighScores, ALineShowsAnyTextAndSaysAllOfIt) {
     EXPECT_EQ(shown(QStringLiteral("two\r\n\tlines\u2028\u0007x")), shown(QStringLiteral("two lines x")));
     EXPECT_EQ(shown(QString(1 << 20, 'W')), shown(QString(100, 'W')));
     EXPECT_NE(shown(QStringLiteral("<b>x</b>")), shown(QStringLiteral("x")));
-    const QString longName(64, 'W');
+    const QString longName = "<b>" + QString(64, 'W');
+    const auto tip = [&name] {
+        QHelpEvent event(QEvent::ToolTip, {1, 1}, name.mapToGlobal(QPoint(1, 1)));
+        QCoreApplication::sendEvent(&name, &event);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(tip(), "");
     name.Caption(longName);
+    EXPECT_TRUE(tip().contains(longName.toHtmlEscaped()));
     EXPECT_EQ(name.access.name(), "Place 1: " + longName);
     const LineLabel& score = game.form->lblHighScore[0];
     EXPECT_LE(score.fontMetrics().horizontalAdvance(QStringLiteral("2,147,483,647")), score.width());

@@ -1,4 +1,4 @@
-// The window on screens of every usual scale, and moved between them.
+// The window on screens of every usual scale and one that no picture was drawn for, and moved between them.
 
 #include <gtest/gtest.h>
 
@@ -56,6 +56,6 @@ TEST_P(Scales, TheFrameOfTheActiveCardIsWholeAndInsideItsCell) {
         EXPECT_EQ(image.pixelColor(x, red.top()).green() + image.pixelColor(x, red.top()).blue(), 0) << x;
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, Scales, testing::Range(0, 6));
+INSTANTIATE_TEST_SUITE_P(Screens, Scales, testing::Range(0, 7));
 
 }  // namespace
