@@ -16,7 +16,6 @@ bool SameRow(const QImage& a, const QImage& b, int row) {
 
 TimeBar::TimeBar(QWidget* parent, const Placement& placement, const PropertyBag& stored)
     : Control<QWidget>(parent, placement), bar_(surface_, *this) {
-    setAttribute(Qt::WA_OpaquePaintEvent);
     bar_.UserControl_ReadProperties(stored);
     FitSurface();
 }

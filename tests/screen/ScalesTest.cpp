@@ -24,7 +24,7 @@ protected:
         game.form->show();
         game.form->windowHandle()->setScreen(screen);
         QCoreApplication::processEvents();
-        EXPECT_EQ(game.form->devicePixelRatioF(), screen->devicePixelRatio());
+        EXPECT_NEAR(game.form->devicePixelRatioF(), screen->devicePixelRatio(), 1e-4);
         return game.form->grab().toImage();
     }
 
