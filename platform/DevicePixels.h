@@ -13,3 +13,9 @@ inline qreal UseDevicePixels(QPainter& painter) {
     painter.scale(1 / scale, 1 / scale);
     return scale;
 }
+
+// Draws `image` pixel by pixel with its corner at `at`, whatever scale it is meant for. Nothing is copied for
+// it, as it would be by changing that scale in the image.
+inline void DrawPixels(QPainter& painter, QPoint at, const QImage& image) {
+    painter.drawImage(QRect(at, image.size()), image);
+}

@@ -19,7 +19,6 @@ void Frame::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), colour_);
     if (background_.IsEmpty()) return;
-    QImage image = background_.At(UseDevicePixels(painter));
-    image.setDevicePixelRatio(1);
-    painter.drawImage(0, 0, image);
+    const qreal scale = UseDevicePixels(painter);
+    DrawPixels(painter, {0, 0}, background_.At(scale));
 }

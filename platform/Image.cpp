@@ -20,9 +20,8 @@ void Image::paintEvent(QPaintEvent* /*event*/) {
     if (shown.IsEmpty()) return;
     QPainter painter(this);
     const qreal scale = UseDevicePixels(painter);
-    QImage image = shown.At(scale);
-    image.setDevicePixelRatio(1);
-    painter.drawImage(0, IsPressed() && pressed_.IsEmpty() ? qRound(scale) : 0, image);
+    const int sunk = IsPressed() && pressed_.IsEmpty() ? qRound(scale) : 0;
+    DrawPixels(painter, {0, sunk}, shown.At(scale));
 }
 
 void Image::enterEvent(QEnterEvent* /*event*/) {

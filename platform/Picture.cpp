@@ -1,9 +1,10 @@
 #include "platform/Picture.h"
 
-#include <QFile>
 #include <QPainter>
 #include <array>
 #include <cmath>
+
+#include "platform/PixelFile.h"
 
 namespace {
 
@@ -24,13 +25,12 @@ private:
         const auto fits = [scale](int percent) { return percent >= scale * 100 - 0.5; };
         const auto* found = std::find_if(kScales.begin(), kScales.end(), fits);
         const int percent = found == kScales.end() ? kScales.back() : *found;
-        QImage image(QStringLiteral(":/window/%1@%2.png").arg(name_).arg(percent));
+        QImage image = PackedPixels(QStringLiteral("window/%1@%2").arg(name_).arg(percent));
         if (image.isNull()) return image;
         if (std::abs(percent - scale * 100) > 0.5) {
             const QSizeF size = image.size() * (scale * 100 / percent);
             image = image.scaled(size.toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         }
-        image.convertTo(QImage::Format_ARGB32_Premultiplied);
         image.setDevicePixelRatio(scale);
         return image;
     }

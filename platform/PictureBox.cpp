@@ -44,9 +44,7 @@ void Draw(QPainter& painter, const DrawnBox& box, qreal scale) {
 
 void Draw(QPainter& painter, const PaintedPicture& painted, qreal scale) {
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    QImage image = painted.picture.At(scale);
-    image.setDevicePixelRatio(1);
-    painter.drawImage(QPointF(painted.at * scale).toPoint(), image);
+    DrawPixels(painter, QPointF(painted.at * scale).toPoint(), painted.picture.At(scale));
 }
 
 // The first of the files dragged, when it is one of this machine.
@@ -156,9 +154,8 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
         Outline(painter, whole, 1, ToQColor(0x3A2A1C));
         painter.fillRect(whole.adjusted(1, 1, -1, -1), ToQColor(0xA39A8E));
     }
-    QImage image = contents_.Render(scale);
-    image.setDevicePixelRatio(1);
     const int sunk = IsPressed() ? qRound(scale) : 0;
     if (sunk > 0) painter.fillRect(whole, ToQColor(0x7A8894));  // the shadow of the edge above
-    painter.drawImage(QPointF(border_ * scale, border_ * scale).toPoint() + QPoint(0, sunk), image);
+    const QPoint corner = QPointF(border_ * scale, border_ * scale).toPoint();
+    DrawPixels(painter, corner + QPoint(0, sunk), contents_.Render(scale));
 }

@@ -8,6 +8,7 @@
 
 #include "platform/Access.h"
 #include "platform/Dialogs.h"
+#include "platform/PixelFile.h"
 #include "platform/RegistryHive.h"
 #include "platform/Shell.h"
 #include "platform/SoundFiles.h"
@@ -26,10 +27,11 @@ namespace {
 // The most memory one picture may take, in megabytes: no file can fill the machine.
 constexpr int kPictureMegabytes = 96;
 
+// Of the sizes that title bars and task bars show; larger ones are the desktop entry's.
 QIcon ProgramIcon() {
     QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256})
-        icon.addFile(QStringLiteral(":/icon/tesselor-%1.png").arg(size), QSize(size, size));
+    for (const int size : {16, 24, 32, 48, 64})
+        icon.addPixmap(QPixmap::fromImage(PackedPixels(QStringLiteral("icon/tesselor-%1").arg(size))));
     return icon;
 }
 
