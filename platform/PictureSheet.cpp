@@ -1,5 +1,7 @@
 #include "platform/PictureSheet.h"
 
+#include <malloc.h>
+
 #include <QBuffer>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -115,6 +117,13 @@ std::shared_ptr<PictureSheet> PictureSheet::FromBytes(const QByteArray& bytes, c
     loaded->Cut(sheet, windows ? windows->devicePixelRatio() : 1.0);
     loaded->first_ = sheet.copy(CellRect(sheet.size(), 0));
     return loaded;
+}
+
+// What a sheet leaves are holes in the heap. They go back to the system.
+PictureSheet::~PictureSheet() {
+    cells_ = {};
+    bytes_ = {};
+    malloc_trim(0);
 }
 
 QImage PictureSheet::Render(int cell, qreal scale) const {

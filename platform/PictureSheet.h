@@ -28,6 +28,10 @@ public:
     // The sheet in the file `path`, or null and the sentence for the player in `why`.
     [[nodiscard]] static std::shared_ptr<PictureSheet> Load(const QString& path, QString& why);
 
+    ~PictureSheet() override;
+    PictureSheet(const PictureSheet&) = delete;
+    PictureSheet& operator=(const PictureSheet&) = delete;
+
     // Cell 0 .. 38; a null image for any other number.
     [[nodiscard]] QImage Render(int cell, qreal scale) const override;
 

@@ -4,7 +4,7 @@
 
 #include <QTemporaryDir>
 
-#include "platform/PictureSheet.h"
+#include "platform/PictureClip.h"
 
 TEST(PictureContents, OutlinesLieAboutTheirEdgesAtEveryScale) {
     const std::tuple<const char*, int, qreal, std::string> cases[] = {
@@ -62,6 +62,27 @@ TEST(PictureSheet, CutsAnySizeIntoFittedCells) {
         }
         EXPECT_TRUE(cut->Render(39, 1).isNull() && cut->Render(-1, 1).isNull());
     }
+}
+
+TEST(PictureClip, ReadsAFileAgainOnlyWhenItHasChanged) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath("skin.png");
+    PictureClip clip;
+    const auto load = [&](int width, QRgb colour) {
+        QImage image(width, 13, QImage::Format_RGB32);
+        image.fill(colour);
+        EXPECT_TRUE(image.save(path));
+        EXPECT_EQ(clip.Load(path), "");
+        return clip.Cell(5);
+    };
+    const Picture red = load(3, qRgb(255, 0, 0));
+    EXPECT_EQ(clip.Load(path), "");
+    EXPECT_EQ(clip.Cell(5), red);
+    const Picture blue = load(6, qRgb(0, 0, 255));
+    EXPECT_EQ(blue.At(1).pixelColor(30, 30), QColor(0, 0, 255));
+    QFile::remove(path);
+    EXPECT_EQ(clip.Load(path), "\"skin.png\" is not there.");
+    EXPECT_EQ(clip.Cell(5), blue);
 }
 
 TEST(PictureSheet, SaysWhyAFileIsNoSheet) {

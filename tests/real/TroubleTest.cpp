@@ -111,9 +111,13 @@ TEST_F(Trouble, NoMemoryForTheSkin) {
     if (kSanitized) GTEST_SKIP();
     const QTemporaryDir home;
     QDir(home.path()).mkdir("Art");
+    QFile::copy(TESSELOR_BUILD "/Art/sea.png", home.filePath("Art/a small one.png"));
     QImage(TESSELOR_BUILD "/Art/sea.png").scaled(1920, 8320).save(home.filePath("Art/large.png"));
     Open(home.path());
+    player->EndWindowManager();
     StartGame();
+    ClickAndSee(Spot::kMenu);
+    ClickAndSee(Spot::Slot(1));
     rlimit before{};
     const auto process = pid_t(player->Process());
     const rlimit tight{rlim_t(Kilobytes("VmSize:") + 20'000) * 1024, RLIM_INFINITY};
@@ -126,6 +130,8 @@ TEST_F(Trouble, NoMemoryForTheSkin) {
     const QImage told = player->Window().Look();
     box.Key("Return");
     ASSERT_TRUE(player->AwaitChange(told));
+    ClickAndSee(Spot::kMenu);
+    ClickAndSee(Spot::Slot(0));
     StartGame();
     EXPECT_EQ(player->Leave(), 0);
 }
