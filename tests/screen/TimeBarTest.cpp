@@ -3,22 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QPaintEvent>
+
+#include "tests/support/PaintWatch.h"
 
 namespace {
-
-// Remembers which part of a widget is painted.
-class PaintWatch final : public QObject {
-public:
-    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
-    QRegion painted;
-
-private:
-    bool eventFilter(QObject* /*widget*/, QEvent* event) override {
-        if (event->type() == QEvent::Paint) painted += static_cast<QPaintEvent*>(event)->region();
-        return false;
-    }
-};
 
 struct NoContainer final : ProgBarContainer {
     void PropertyChanged(std::string_view /*key*/) override {}

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/GameWindow.h"
+#include "tests/support/PaintWatch.h"
 
 using namespace std::chrono_literals;
 
@@ -114,4 +115,22 @@ TEST(TurnCycle, MadeUpArgumentsDoNoHarm) {
     }
     EXPECT_EQ(game.Model().PosCurrentCard(), 12);
     EXPECT_TRUE(game.form->fraScreen[0].Visible());
+}
+
+TEST(TurnCycle, AMoveRepaintsTheTwoCellsAndNothingElse) {
+    GameWindow game;
+    game.PlayKinds({0, 16});
+    game.form->show();
+    QCoreApplication::processEvents();
+    const auto place = [&](int cell) {
+        return QRect(game.Cell(cell).mapTo(game.form.get(), QPoint(0, 0)), game.Cell(cell).size());
+    };
+    PaintWatch watch(*game.form);
+    game.Key(kKeyRight);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(watch.painted, QRegion(place(12)) + place(13));
+    watch.painted = {};
+    game.MoveTo(3);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(watch.painted, QRegion(place(13)) + place(3));
 }
