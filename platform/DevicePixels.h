@@ -14,6 +14,15 @@ inline qreal UseDevicePixels(QPainter& painter) {
     return scale;
 }
 
+// The device pixels of a control of that size, from its corner on. Call before UseDevicePixels. At fractional scales
+// they may be one more or less than the size times the scale, as the control begins and ends on whole pixels.
+inline QRect DevicePixelsOf(const QPainter& painter, const QSize& size) {
+    const QTransform toDevice = painter.deviceTransform();
+    const QPoint from = toDevice.map(QPointF(0, 0)).toPoint();
+    const QPoint to = toDevice.map(QPointF(size.width(), size.height())).toPoint();
+    return {QPoint(0, 0), QSize(to.x() - from.x(), to.y() - from.y())};
+}
+
 // Draws `image` pixel by pixel with its corner at `at`, whatever scale it is meant for. Nothing is copied for
 // it, as it would be by changing that scale in the image.
 inline void DrawPixels(QPainter& painter, QPoint at, const QImage& image) {

@@ -78,6 +78,7 @@ QImage PictureContents::Render(qreal scale) const {
 
 PictureBox::PictureBox(QWidget* parent, const Placement& placement, int border)
     : Pressable<QWidget>(parent, placement), border_(border) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
     contents_.size = Inside().size();
 }
 
@@ -148,12 +149,10 @@ void PictureBox::Add(const DrawnBox& box) {
 
 void PictureBox::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    const QRect whole = DevicePixelsOf(painter, size());
     const qreal scale = UseDevicePixels(painter);
-    const QRect whole = Scaled(QRectF(rect()), scale);
-    if (border_ > 0) {
-        Outline(painter, whole, 1, ToQColor(0x3A2A1C));
-        painter.fillRect(whole.adjusted(1, 1, -1, -1), ToQColor(0xA39A8E));
-    }
+    painter.fillRect(whole, ToQColor(border_ > 0 ? Colour{0xA39A8E} : contents_.background));
+    if (border_ > 0) Outline(painter, whole, 1, ToQColor(0x3A2A1C));
     const int sunk = IsPressed() ? qRound(scale) : 0;
     if (sunk > 0) painter.fillRect(whole, ToQColor(0x7A8894));  // the shadow of the edge above
     const QPoint corner = QPointF(border_ * scale, border_ * scale).toPoint();

@@ -14,6 +14,9 @@ using namespace std::chrono_literals;
 // A sound that starts later than this no longer belongs to what is seen.
 constexpr auto kLate = 1s;
 constexpr auto kPatienceAtTheEnd = 200ms;
+// What is heard belongs to something that is seen. Drawing that goes first: both at once get into each
+// other's way, and no ear notices a sound that is so little late.
+constexpr auto kBehindThePicture = 3ms;
 
 }  // namespace
 
@@ -65,9 +68,13 @@ void SoundPlayer::Work(const std::shared_ptr<Desk>& desk) {
         desk->server.AwaitEvent();
         std::unique_lock lock(desk->mutex);
         if (desk->toEnd) break;
-        auto sound = std::exchange(desk->newest, std::nullopt);
+        if (!desk->newest) continue;
         lock.unlock();
-        if (sound) desk->server.Play(std::move(*sound));
+        std::this_thread::sleep_for(kBehindThePicture);
+        lock.lock();
+        Sound sound = *std::exchange(desk->newest, std::nullopt);
+        lock.unlock();
+        desk->server.Play(std::move(sound));
     }
     desk->server.Disconnect();
     const std::lock_guard lock(desk->mutex);
