@@ -27,10 +27,9 @@ void BarSurface::FillRect(const Rect& area, Colour colour) {
     const QRect inside = pixels_.rect().adjusted(Border(), Border(), -Border(), -Border());
     const QRect filled = asked.translated(Border(), Border()) & inside;
     const QRgb pixel = ToQColor(BrushColour(colour)).rgb();
-    for (int y = filled.top(); y <= filled.bottom(); ++y) {
-        auto* const row = reinterpret_cast<QRgb*>(pixels_.scanLine(y)) + filled.left();
+    auto* row = reinterpret_cast<QRgb*>(pixels_.bits()) + filled.top() * pixels_.width() + filled.left();
+    for (int rows = filled.height(); rows > 0; --rows, row += pixels_.width())
         std::fill_n(row, filled.width(), pixel);
-    }
 }
 
 void BarSurface::UserScale(double width, double height) {

@@ -1,6 +1,7 @@
 #include "screen/TimeBar.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -16,8 +17,14 @@ bool SameRow(const QImage& a, const QImage& b, int row) {
 
 TimeBar::TimeBar(QWidget* parent, const Placement& placement, const PropertyBag& stored)
     : Control<QWidget>(parent, placement), bar_(surface_, *this) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
     bar_.UserControl_ReadProperties(stored);
-    FitSurface();
+    FitSurface((QSizeF(this->size()) * devicePixelRatioF()).toSize());
+}
+
+// Above junior the bar is full long before the time is up: nothing is painted for the ticks until then.
+void TimeBar::Value(std::int32_t value) {
+    if (std::clamp(value, bar_.Min(), bar_.Max()) != bar_.Value()) bar_.Value(value);
 }
 
 // Asks the window to repaint no more than the rows in which the bar differs from what the screen shows.
@@ -32,20 +39,16 @@ void TimeBar::PropertyChanged(std::string_view /*key*/) {
     update(QRectF(0, first / scale, width(), (last - first + 1) / scale).toAlignedRect());
 }
 
-void TimeBar::FitSurface() {
-    const qreal scale = devicePixelRatioF();
-    surface_.Resize((QSizeF(size()) * scale).toSize(), scale);
+void TimeBar::FitSurface(QSize pixels) {
+    surface_.Resize(pixels, devicePixelRatioF());
     bar_.UserControl_Resize();
-}
-
-void TimeBar::resizeEvent(QResizeEvent* /*event*/) {
-    FitSurface();
 }
 
 void TimeBar::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
-    const qreal scale = UseDevicePixels(painter);
-    if (surface_.Pixels().size() != (QSizeF(size()) * scale).toSize()) FitSurface();
+    const QRect whole = DevicePixelsOf(painter, size());
+    UseDevicePixels(painter);
+    if (surface_.Pixels().size() != whole.size()) FitSurface(whole.size());
     shown_ = surface_.Pixels().copy();
     painter.drawImage(0, 0, shown_);
 }

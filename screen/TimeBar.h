@@ -14,15 +14,15 @@ public:
 
     [[nodiscard]] ProgBar& Bar() { return bar_; }
     [[nodiscard]] std::int32_t Value() const { return bar_.Value(); }
-    void Value(std::int32_t value) { bar_.Value(value); }
+    void Value(std::int32_t value);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void PropertyChanged(std::string_view key) override;
-    void FitSurface();
+    // Paints the bar afresh on a surface of that many device pixels.
+    void FitSurface(QSize pixels);
 
     BarSurface surface_;
     ProgBar bar_;
