@@ -29,7 +29,10 @@ RealWindow::RealWindow(const QString& display, const QString& title, const RealW
     XSelectInput(display_, DefaultRootWindow(display_), SubstructureNotifyMask);
     WatchDamage();
     const unsigned long except = other ? other->window_ : 0;
-    Await([&] { return (window_ = Find(DefaultRootWindow(display_), title, except)) != 0; });
+    if (title.isEmpty())
+        window_ = DefaultRootWindow(display_);
+    else
+        Await([&] { return (window_ = Find(DefaultRootWindow(display_), title, except)) != 0; });
     if (window_ != 0) place_ = Place();
 }
 

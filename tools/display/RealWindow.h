@@ -12,6 +12,7 @@ struct _XDisplay;
 class RealWindow {
 public:
     // Waits until a window with the title `title`, and another one than `other`, is mapped on `display`.
+    // Without a title it is the whole screen.
     RealWindow(const QString& display, const QString& title, const RealWindow* other = nullptr);
     ~RealWindow();
     RealWindow(const RealWindow&) = delete;
