@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <QTest>
+#include <csignal>
 
 #include "tests/support/Files.h"
 #include "tests/support/GameWindow.h"
@@ -98,6 +100,27 @@ TEST(Recording, IsAddedToTheFileAsOftenAsAsked) {
     QDir().mkdir(path);  // nothing can be written there
     game.form->cmdPrint_Click();
     EXPECT_EQ(game.dialogs.told.size(), 1);
+}
+
+// The disk is full in the middle of the text.
+TEST(Recording, ThatDoesNotFitLeavesTheFileAsItWas) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("array.txt");
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const auto append = [&](rlim_t room, const QByteArray& text) {
+        const rlimit full{room, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &full);
+        const bool appended = AppendToFile(path, text);
+        setrlimit(RLIMIT_FSIZE, &before);
+        return appended;
+    };
+    EXPECT_FALSE(append(10, QByteArray(100, 'x')));
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_TRUE(append(10, "kept\r\n"));
+    EXPECT_FALSE(append(10, QByteArray(100, 'x')));
+    EXPECT_EQ(ReadFile(path), "kept\r\n");
 }
 
 TEST(Recording, AFullOneStopsGrowingAndTheCardStillMoves) {
