@@ -1,15 +1,32 @@
 #include <malloc.h>
 
 #include <QApplication>
+#include <cstdio>
+#include <cstdlib>
 
 #include "shell/CommandLine.h"
 #include "shell/mdlMain.h"
 
+namespace {
+
+QtMessageHandler theUsualHandler = nullptr;
+
+// The toolkit aborts when there is no display for it. That is no crash to be examined, so it ends in order.
+void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (type != QtFatalMsg) return theUsualHandler(type, context, message);
+    std::fprintf(stderr, "tesselor cannot show its window: %s\n", qPrintable(message.simplified()));
+    std::_Exit(EXIT_FAILURE);
+}
+
+}  // namespace
+
 int main(int argc, char* argv[]) {
     if (const auto status = AnswerCommandLine(argc, argv)) return *status;
     mallopt(M_MMAP_THRESHOLD, 1 << 20);  // a decoded picture goes back to the system, not to the heap
+    theUsualHandler = qInstallMessageHandler(EndWithoutDisplay);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
+    qInstallMessageHandler(theUsualHandler);
     QApplication::setApplicationName(QStringLiteral("Tesselor"));
     QApplication::setDesktopFileName(QStringLiteral("tesselor"));
     return mdlMain::Main();
