@@ -137,9 +137,10 @@ void PrintIdle(const char* what, const Running& program, int seconds) {
     QThread::msleep(1000);
     const double cpu = program.ProcessorMilliseconds(), switches = program.Switches();
     QThread::sleep(static_cast<unsigned long>(seconds));
+    // A thread that ends takes its share away.
     std::printf("%-34s %8.2f %% of a core, %6.1f switches a second\n", what,
-                (program.ProcessorMilliseconds() - cpu) / seconds / 10,
-                (program.Switches() - switches) / seconds);
+                std::max(0.0, program.ProcessorMilliseconds() - cpu) / seconds / 10,
+                std::max(0.0, program.Switches() - switches) / seconds);
 }
 
 void MeasureStarts(const VirtualDisplay& display, const std::vector<Program>& programs, int starts) {
