@@ -3,7 +3,8 @@
 // happens. Then the game and the bare window alone: key and mouse to changed pixels, and a game at master
 // level.
 //
-// usage: dbus-run-session measure [STARTS] [MOVES] [IDLE-SECONDS]
+// usage: dbus-run-session measure [STARTS] [MOVES] [IDLE-SECONDS] [PROGRAM...]
+// A PROGRAM, such as an older build of the game, takes its turns with the others.
 
 #include <QCoreApplication>
 #include <QDir>
@@ -251,6 +252,7 @@ int main(int argc, char* argv[]) {
     std::vector<Program> programs{kBare, kGame};
     for (const Program& other : kOthers)
         if (QFileInfo(QString::fromUtf8(other.path)).isExecutable()) programs.push_back(other);
+    for (int i = 4; i < argc; ++i) programs.push_back({argv[i], argv[i]});
     MeasureStarts(display, programs, starts);
     MeasureRest(display, programs, seconds);
     MeasureGame(display, moves, seconds);
