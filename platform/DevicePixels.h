@@ -14,8 +14,9 @@ inline qreal UseDevicePixels(QPainter& painter) {
     return scale;
 }
 
-// The device pixels of a control of that size, from its corner on. Call before UseDevicePixels. At fractional scales
-// they may be one more or less than the size times the scale, as the control begins and ends on whole pixels.
+// The device pixels of a control of that size, from its corner on. Call before UseDevicePixels. At fractional
+// scales they may be one more or less than the size times the scale, as the control begins and ends on whole
+// pixels.
 inline QRect DevicePixelsOf(const QPainter& painter, const QSize& size) {
     const QTransform toDevice = painter.deviceTransform();
     const QPoint from = toDevice.map(QPointF(0, 0)).toPoint();

@@ -20,6 +20,9 @@ public:
         interval_ = milliseconds;
         if (enabled_) Apply();
     }
+    // No more ticks until it is enabled afresh or given an interval; it stays enabled. For a timer whose
+    // ticks change nothing any more: the machine can sleep on.
+    void Rest() { alarm_->Stop(); }
 
 private:
     void Apply() {

@@ -1,7 +1,6 @@
 #include "screen/TimeBar.h"
 
 #include <QPainter>
-#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -20,11 +19,6 @@ TimeBar::TimeBar(QWidget* parent, const Placement& placement, const PropertyBag&
     setAttribute(Qt::WA_OpaquePaintEvent);
     bar_.UserControl_ReadProperties(stored);
     FitSurface((QSizeF(this->size()) * devicePixelRatioF()).toSize());
-}
-
-// Above junior the bar is full long before the time is up: nothing is painted for the ticks until then.
-void TimeBar::Value(std::int32_t value) {
-    if (std::clamp(value, bar_.Min(), bar_.Max()) != bar_.Value()) bar_.Value(value);
 }
 
 // Asks the window to repaint no more than the rows in which the bar differs from what the screen shows.

@@ -14,7 +14,7 @@ public:
 
     [[nodiscard]] ProgBar& Bar() { return bar_; }
     [[nodiscard]] std::int32_t Value() const { return bar_.Value(); }
-    void Value(std::int32_t value);
+    void Value(std::int32_t value) { bar_.Value(value); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

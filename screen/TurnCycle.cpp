@@ -122,6 +122,7 @@ void frmGame::GiveBackActiveCell() {
 
 void frmGame::Timer2_Timer() {
     if (const std::int32_t step = BarStep(Game().SetLevel())) prbTime.Value(prbTime.Value() + step);
+    if (prbTime.Value() == prbTime.Bar().Max()) Timer2.Rest();
 }
 
 void mdlFormFunc::StartNextTurn() {

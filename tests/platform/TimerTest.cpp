@@ -22,6 +22,12 @@ TEST(Timer, TicksByItsRules) {
          [](Timer& a, VirtualTime& t) { a.Enabled(true), t.Pass(60ms), a.Enabled(true), t.Pass(60ms); }, 1},
         {"a new interval starts afresh",
          [](Timer& a, VirtualTime& t) { a.Enabled(true), t.Pass(60ms), a.Interval(50), t.Pass(49ms); }, 0},
+        {"at rest: never", [](Timer& a, VirtualTime& t) { a.Enabled(true), a.Rest(), t.Pass(1h); }, 0},
+        {"enabled again after a rest",
+         [](Timer& a, VirtualTime& t) {
+             a.Enabled(true), a.Rest(), a.Enabled(false), a.Enabled(true), t.Pass(100ms);
+         },
+         1},
         {"several missed: once, late",
          [](Timer& a, VirtualTime& t) { a.Enabled(true), t.Wait(1s), t.Pass(0ms); }, 1},
     };

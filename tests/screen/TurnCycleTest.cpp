@@ -40,6 +40,18 @@ TEST(TurnCycle, MovesTheTimeBarWithTheLevel) {
     }
 }
 
+TEST(TurnCycle, AFullTimeBarMovesAgainAfterAPause) {
+    GameWindow game;
+    game.PlayKinds({0, 16, 32}, kExpert);
+    game.Lock();
+    game.time.Pass(3000ms);
+    EXPECT_EQ(game.form->prbTime.Value(), 100);
+    EXPECT_TRUE(game.form->Timer2.Enabled());
+    game.RightClick(), game.RightClick();
+    game.time.Pass(147ms);
+    EXPECT_EQ(game.form->prbTime.Value(), 6);
+}
+
 TEST(TurnCycle, PauseStopsTimeAndInputAndGivesTheWholeTimeAgain) {
     GameWindow game;
     game.PlayKinds({0, 16, 32, 5}, kMaster);
