@@ -27,6 +27,11 @@ QImage PackedPixels(const QString& name) {
     std::memcpy(&head, bytes->constData(), sizeof head);
     auto* const pixels = reinterpret_cast<uchar*>(bytes->data()) + sizeof head;
     const auto release = [](void* kept) { delete static_cast<QByteArray*>(kept); };
-    return {pixels,  head.width,     head.height, 4 * head.width, static_cast<QImage::Format>(head.format),
-            release, bytes.release()};
+    return {pixels,
+            head.width,
+            head.height,
+            qsizetype{4} * head.width,
+            static_cast<QImage::Format>(head.format),
+            release,
+            bytes.release()};
 }

@@ -27,7 +27,8 @@ void BarSurface::FillRect(const Rect& area, Colour colour) {
     const QRect inside = pixels_.rect().adjusted(Border(), Border(), -Border(), -Border());
     const QRect filled = asked.translated(Border(), Border()) & inside;
     const QRgb pixel = ToQColor(BrushColour(colour)).rgb();
-    auto* row = reinterpret_cast<QRgb*>(pixels_.bits()) + filled.top() * pixels_.width() + filled.left();
+    auto* row =
+        reinterpret_cast<QRgb*>(pixels_.bits()) + qsizetype{filled.top()} * pixels_.width() + filled.left();
     for (int rows = filled.height(); rows > 0; --rows, row += pixels_.width())
         std::fill_n(row, filled.width(), pixel);
 }
