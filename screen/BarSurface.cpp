@@ -24,8 +24,9 @@ void BarSurface::Resize(QSize size, qreal scale) {
 // A bar is a few hundred of these: filled without a painter, which would cost more than the pixels.
 void BarSurface::FillRect(const Rect& area, Colour colour) {
     const QRect asked(QPoint(area.left, area.top), QPoint(area.right - 1, area.bottom - 1));
-    const QRect inside = pixels_.rect().adjusted(Border(), Border(), -Border(), -Border());
-    const QRect filled = asked.translated(Border(), Border()) & inside;
+    const QRect inside(QPoint(0, 0), pixels_.size() - 2 * QSize(Border(), Border()));
+    const QRect filled = inside.isEmpty() ? QRect() : (asked & inside).translated(Border(), Border());
+    if (filled.isEmpty()) return;
     const QRgb pixel = ToQColor(BrushColour(colour)).rgb();
     auto* row =
         reinterpret_cast<QRgb*>(pixels_.bits()) + qsizetype{filled.top()} * pixels_.width() + filled.left();
