@@ -4,12 +4,15 @@
 #include <QPainter>
 #include <algorithm>
 
-#include "platform/Colour.h"
-
 namespace {
 
 QString Text(std::string_view text) {
     return QString::fromUtf8(text.data(), qsizetype(text.size()));
+}
+
+// The high byte of a stored colour may hold anything.
+QRgb Pixel(Colour colour) {
+    return qRgb(colour & 0xFF, colour >> 8 & 0xFF, colour >> 16 & 0xFF);
 }
 
 }  // namespace
@@ -23,15 +26,13 @@ void BarSurface::Resize(QSize size, qreal scale) {
 
 // A bar is a few hundred of these: filled without a painter, which would cost more than the pixels.
 void BarSurface::FillRect(const Rect& area, Colour colour) {
-    const QRect asked(QPoint(area.left, area.top), QPoint(area.right - 1, area.bottom - 1));
-    const QRect inside(QPoint(0, 0), pixels_.size() - 2 * QSize(Border(), Border()));
-    const QRect filled = inside.isEmpty() ? QRect() : (asked & inside).translated(Border(), Border());
-    if (filled.isEmpty()) return;
-    const QRgb pixel = ToQColor(BrushColour(colour)).rgb();
-    auto* row =
-        reinterpret_cast<QRgb*>(pixels_.bits()) + qsizetype{filled.top()} * pixels_.width() + filled.left();
-    for (int rows = filled.height(); rows > 0; --rows, row += pixels_.width())
-        std::fill_n(row, filled.width(), pixel);
+    const int left = std::max(area.left, 0), right = std::min(area.right, pixels_.width() - 2 * Border());
+    const int top = std::max(area.top, 0), bottom = std::min(area.bottom, pixels_.height() - 2 * Border());
+    if (left >= right || top >= bottom) return;
+    const QRgb pixel = Pixel(colour);
+    auto* row = reinterpret_cast<QRgb*>(pixels_.scanLine(top + Border())) + left + Border();
+    for (int rows = bottom - top; rows > 0; --rows, row += pixels_.width())
+        std::fill_n(row, right - left, pixel);
 }
 
 void BarSurface::UserScale(double width, double height) {
@@ -50,7 +51,7 @@ double BarSurface::TextHeight(std::string_view /*text*/) const {
 void BarSurface::Print(double x, double y, std::string_view text) {
     QPainter painter(&pixels_);
     painter.setFont(font_);
-    painter.setPen(ToQColor(BrushColour(foreColour_)));
+    painter.setPen(QColor(Pixel(foreColour_)));
     const double baseline = y * unitY_ + QFontMetricsF(font_).ascent();
     painter.drawText(QPointF(x * unitX_ + Border(), baseline + Border()), Text(text));
 }

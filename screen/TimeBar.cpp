@@ -6,14 +6,6 @@
 
 #include "platform/DevicePixels.h"
 
-namespace {
-
-bool SameRow(const QImage& a, const QImage& b, int row) {
-    return std::memcmp(a.constScanLine(row), b.constScanLine(row), std::size_t(a.bytesPerLine())) == 0;
-}
-
-}  // namespace
-
 TimeBar::TimeBar(QWidget* parent, const Placement& placement, const PropertyBag& stored)
     : Control<QWidget>(parent, placement), bar_(surface_, *this) {
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -25,9 +17,12 @@ TimeBar::TimeBar(QWidget* parent, const Placement& placement, const PropertyBag&
 void TimeBar::PropertyChanged(std::string_view /*key*/) {
     const QImage& now = surface_.Pixels();
     if (shown_.size() != now.size()) return update();
+    const auto same = [is = now.constBits(), was = shown_.constBits(), bytes = now.bytesPerLine()](int row) {
+        return std::memcmp(is + row * bytes, was + row * bytes, std::size_t(bytes)) == 0;
+    };
     int first = 0, last = now.height() - 1;
-    while (first <= last && SameRow(now, shown_, first)) ++first;
-    while (last >= first && SameRow(now, shown_, last)) --last;
+    while (first <= last && same(first)) ++first;
+    while (last >= first && same(last)) --last;
     if (first > last) return;
     const qreal scale = devicePixelRatioF();
     update(QRectF(0, first / scale, width(), (last - first + 1) / scale).toAlignedRect());
