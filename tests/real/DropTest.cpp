@@ -60,6 +60,7 @@ protected:
         ASSERT_TRUE(box.Found());
         box.Focus();
         box.Key(key);
+        ASSERT_TRUE(box.AwaitClosed());
     }
 
     QTemporaryDir home, outside;

@@ -110,6 +110,13 @@ QImage RealWindow::Look(const QRect& area) const {
     return image;
 }
 
+bool RealWindow::AwaitClosed() const {
+    return Await([this] {
+        XWindowAttributes attributes;
+        return !XGetWindowAttributes(display_, window_, &attributes) || attributes.map_state != IsViewable;
+    });
+}
+
 void RealWindow::Focus() const {
     XSetInputFocus(display_, window_, RevertToParent, CurrentTime);
     XSync(display_, False);

@@ -33,6 +33,9 @@ public:
     bool Await(const std::function<bool()>& seen,
                std::chrono::milliseconds limit = std::chrono::seconds(20)) const;
 
+    // Waits until the window is gone; false when it stays.
+    bool AwaitClosed() const;
+
     // Gives the window the keyboard at once; a click leaves it to the window manager when.
     void Focus() const;
     void Key(const char* keysym) const;  // X's name of the key: "space", "Left", "p"
