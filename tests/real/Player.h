@@ -51,8 +51,7 @@ public:
     int Leave();
     int AwaitEnd();
     [[nodiscard]] qint64 Process() const { return game_.processId(); }
-    // From then on clicks reach the game as they are made. A window manager holds each one back to look at it
-    // first; when the next moves the mouse meanwhile, the held one is taken to be there.
+    // From then on nobody but the test gives the keyboard away or has a say in the mouse.
     void EndWindowManager();
     // Ends the X server under the game; nothing is to be seen from then on.
     void KillDisplay();

@@ -3,6 +3,9 @@
 #include <X11/Xatom.h>
 #include <X11/Xlib.h>
 
+#include <QDir>
+#include <QFile>
+
 namespace {
 
 // Waits until a window manager has announced itself on the display `name`: a window mapped while one is only
@@ -28,6 +31,15 @@ void AwaitWindowManager(const QString& name) {
     XCloseDisplay(display);
 }
 
+// A window manager without uses of its own for the mouse: it would hold each click back to look at it first,
+// and when the next one moved the mouse meanwhile, the held one would be taken to be there.
+void LeaveClicksAlone(const QDir& config) {
+    config.mkdir("openbox");
+    QFile file(config.filePath("openbox/rc.xml"));
+    if (!file.open(QIODevice::WriteOnly)) return;
+    file.write("<openbox_config xmlns=\"http://openbox.org/3.4/rc\"><mouse/></openbox_config>");
+}
+
 void End(QProcess& process) {
     process.terminate();
     if (!process.waitForFinished(3000)) process.kill(), process.waitForFinished(3000);
@@ -42,6 +54,7 @@ VirtualDisplay::VirtualDisplay() {
     while (!server_.canReadLine())
         if (!server_.waitForReadyRead(20000)) return;
     name_ = ':' + QString::fromLatin1(server_.readLine()).trimmed();
+    LeaveClicksAlone(QDir(config_.path()));
     windowManager_.setProcessEnvironment(Environment());
     windowManager_.start("openbox", {"--sm-disable"});
     if (windowManager_.waitForStarted()) AwaitWindowManager(name_);
