@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <array>
 #include <cmath>
+#include <new>
 
 #include "platform/PixelFile.h"
 
@@ -40,6 +41,14 @@ private:
 };
 
 }  // namespace
+
+QImage Picture::At(qreal scale) const {
+    try {
+        return source_ ? source_->Render(cell_, scale) : QImage();
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
 
 Picture WindowArt(const QString& name) {
     return {std::make_shared<ArtSource>(name), 0};

@@ -9,7 +9,7 @@ public:
     virtual ~PictureSource() = default;
 
     // The picture numbered `cell`, drawn for `scale` device pixels to a logical pixel, which is also the
-    // device pixel ratio of the image. A null image when there is no such cell.
+    // device pixel ratio of the image. A null image when there is no such cell. Throws std::bad_alloc.
     [[nodiscard]] virtual QImage Render(int cell, qreal scale) const = 0;
 };
 
@@ -24,8 +24,9 @@ public:
     [[nodiscard]] bool IsEmpty() const { return source_ == nullptr; }
     // Which cell of its source it is; meaningless when empty.
     [[nodiscard]] int Cell() const { return cell_; }
-    // The image for `scale`; null when empty.
-    [[nodiscard]] QImage At(qreal scale) const { return source_ ? source_->Render(cell_, scale) : QImage(); }
+    // The image for `scale`; null when empty, and while there is no memory for it: who paints it leaves it
+    // out.
+    [[nodiscard]] QImage At(qreal scale) const;
 
     friend bool operator==(const Picture&, const Picture&) = default;
 

@@ -138,6 +138,9 @@ Picture PictureSheet::Thumbnail() const {
 
 void PictureSheet::Cut(const QImage& sheet, qreal scale) const {
     cells_.clear();
+    std::vector<QImage> cells;  // all of them or, when memory ends, none
+    cells.reserve(kSheetCells);
     for (int cell = 0; cell < kSheetCells; ++cell)
-        cells_.push_back(Fit(sheet.copy(CellRect(sheet.size(), cell)), scale));
+        cells.push_back(Fit(sheet.copy(CellRect(sheet.size(), cell)), scale));
+    cells_ = std::move(cells);
 }

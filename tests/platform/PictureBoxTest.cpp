@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
+#include <new>
 
 #include "platform/PictureClip.h"
 
@@ -22,6 +23,29 @@ TEST(PictureContents, OutlinesLieAboutTheirEdgesAtEveryScale) {
             across += image.pixelColor(x, qRound(5.4 * scale)) == QColor(Qt::red) ? '#' : '.';
         EXPECT_EQ(across, expected) << what;
     }
+}
+
+namespace {
+
+struct Scarce final : PictureSource {
+    mutable bool memory = false;
+    QImage Render(int /*cell*/, qreal /*scale*/) const override {
+        if (!memory) throw std::bad_alloc();
+        QImage image(60, 60, QImage::Format_RGB32);
+        image.fill(Qt::blue);
+        return image;
+    }
+};
+
+}  // namespace
+
+TEST(PictureBox, LeavesOutAPictureWhileThereIsNoMemoryForIt) {
+    PictureBox box(nullptr, {"box", {0, 0, 900, 900}, {}}, 0);
+    const auto scarce = std::make_shared<Scarce>();
+    box.Picture({scarce, 0});
+    EXPECT_EQ(box.grab().toImage().pixelColor(30, 30), QColor(Qt::white));
+    scarce->memory = true;
+    EXPECT_EQ(box.grab().toImage().pixelColor(30, 30), QColor(Qt::blue));
 }
 
 TEST(PictureBox, KeepsDrawingsUntilPictureOrClear) {
