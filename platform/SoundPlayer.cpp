@@ -53,13 +53,13 @@ bool SoundPlayer::Play(const QByteArray& wave) {
 }
 
 bool SoundPlayer::Begin() {
-    auto desk = std::make_shared<Desk>();
     try {
+        auto desk = std::make_shared<Desk>();
         thread_ = std::thread(Work, desk);
+        desk_ = std::move(desk);
     } catch (const std::system_error&) {
-        return false;  // no thread to be had now; the next sound tries again
+        return false;  // no files or no thread to be had now; the next sound tries again
     }
-    desk_ = std::move(desk);
     return true;
 }
 

@@ -3,6 +3,8 @@
 #include <sys/eventfd.h>
 #include <unistd.h>
 
+#include <cerrno>
+#include <system_error>
 #include <utility>
 
 namespace {
@@ -30,7 +32,13 @@ bool IsOpening(const pa_stream* stream) {
 }  // namespace
 
 // The loop has a wake-up of its own, but forgets one that comes just before it goes to sleep.
-SoundServer::SoundServer() : loop_(pa_mainloop_new()), bell_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)) {
+SoundServer::SoundServer() : bell_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)) {
+    if (bell_ >= 0) loop_ = pa_mainloop_new();
+    if (!loop_) {
+        const int reason = errno;
+        if (bell_ >= 0) close(bell_);
+        throw std::system_error(reason, std::generic_category());
+    }
     const auto silence = [](pa_mainloop_api*, pa_io_event*, int bell, pa_io_event_flags_t, void*) {
         eventfd_t rings = 0;
         eventfd_read(bell, &rings);
@@ -60,6 +68,7 @@ void SoundServer::Play(Sound sound) {
 void SoundServer::Connect() {
     Disconnect();
     context_ = pa_context_new(pa_mainloop_get_api(loop_), "Tesselor");
+    if (!context_) return GiveUp();  // it takes 64 MB of addresses
     const auto changed = [](pa_context*, void* self) { static_cast<SoundServer*>(self)->ContextChanged(); };
     pa_context_set_state_callback(context_, changed, this);
     if (pa_context_connect(context_, nullptr, PA_CONTEXT_NOFLAGS, nullptr) < 0) GiveUp();

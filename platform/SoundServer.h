@@ -21,6 +21,7 @@ struct Sound {
 // that hangs costs nothing but the sound, and one that has gone is looked for again with the next sound.
 class SoundServer {
 public:
+    // Throws std::system_error when the system has no files to spare for it.
     SoundServer();
     ~SoundServer();
     SoundServer(const SoundServer&) = delete;
@@ -48,8 +49,8 @@ private:
     void CloseStream();
     void GiveUp();
 
-    pa_mainloop* loop_;
     int bell_;  // an event counter that Wake raises and the loop watches
+    pa_mainloop* loop_ = nullptr;
     pa_context* context_ = nullptr;
     pa_stream* stream_ = nullptr;  // of `sound_`, from the request for it until all has been heard
     Sound sound_;

@@ -1,6 +1,8 @@
 // The game's player on a real sound server, judged by what comes out of it.
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
 #include <QElapsedTimer>
 #include <QFile>
@@ -10,6 +12,7 @@
 
 #include "platform/SoundPlayer.h"
 #include "tests/real/SoundListener.h"
+#include "tests/support/Sanitized.h"
 
 namespace {
 
@@ -143,6 +146,48 @@ TEST_F(RealSound, AHangingServerKeepsNobodyWaiting) {
     const Samples heard = listener.Sound();
     EXPECT_LT(heard.size(), kRate) << "what was asked for meanwhile is not played now";
     EXPECT_FALSE(Starts(Expected(Wave(104)), heard).empty());
+}
+
+// Takes this process to the limit `soft` of `resource` as long as it lives.
+class Limit {
+public:
+    Limit(__rlimit_resource resource, rlim_t soft) : resource_(resource) {
+        getrlimit(resource, &before_);
+        const rlimit tight{soft, before_.rlim_max};
+        EXPECT_EQ(setrlimit(resource, &tight), 0);
+    }
+    ~Limit() { setrlimit(resource_, &before_); }
+
+private:
+    __rlimit_resource resource_;
+    rlimit before_{};
+};
+
+TEST_F(RealSound, SoundsReturnOnceFilesCanBeOpenedAgain) {
+    if (kSanitized) GTEST_SKIP();
+    const int free = dup(STDIN_FILENO);
+    close(free);
+    {
+        const Limit limit(RLIMIT_NOFILE, rlim_t(free));
+        EXPECT_FALSE(player.Play(Wave(104)));
+    }
+    EXPECT_TRUE(player.Play(Wave(104)));
+    EXPECT_TRUE(listener.AwaitSoundAndSilence());
+}
+
+// A connection takes 64 megabytes of addresses.
+TEST_F(RealSound, SoundsReturnOnceThereIsMemoryAgain) {
+    if (kSanitized) GTEST_SKIP();
+    {
+        const rlim_t pages = Bytes("/proc/self/statm").split(' ').first().toULongLong();
+        const Limit limit(RLIMIT_AS, pages * rlim_t(getpagesize()) + 50'000'000);
+        const QDeadlineTimer patience(20000);
+        while (player.Play(Wave(104)) && !patience.hasExpired()) std::this_thread::yield();
+        EXPECT_FALSE(patience.hasExpired()) << "takes sounds though it has no room to play them";
+    }
+    player.Play(Wave(105));
+    ASSERT_TRUE(listener.AwaitSoundAndSilence());
+    EXPECT_GE(WholeLikeness(Expected(Wave(105)), listener.Sound()), 0.9);
 }
 
 TEST_F(RealSound, SoundsReturnWithTheServer) {
