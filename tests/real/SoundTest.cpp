@@ -151,7 +151,7 @@ TEST_F(RealSound, AHangingServerKeepsNobodyWaiting) {
 // Takes this process to the limit `soft` of `resource` as long as it lives.
 class Limit {
 public:
-    Limit(__rlimit_resource resource, rlim_t soft) : resource_(resource) {
+    Limit(decltype(RLIMIT_AS) resource, rlim_t soft) : resource_(resource) {
         getrlimit(resource, &before_);
         const rlimit tight{soft, before_.rlim_max};
         EXPECT_EQ(setrlimit(resource, &tight), 0);
@@ -159,7 +159,7 @@ public:
     ~Limit() { setrlimit(resource_, &before_); }
 
 private:
-    __rlimit_resource resource_;
+    decltype(RLIMIT_AS) resource_;
     rlimit before_{};
 };
 
