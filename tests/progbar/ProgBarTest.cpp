@@ -1,93 +1,267 @@
+// Random sessions of a bar beside a second reading of its rules: writes in any order, stores in order and
+// damaged, surfaces of any size and depth. After every step both must agree on what is stored, on what the
+// surface and the container were told in which order, and on every pixel at each of those moments.
+
 #include "progbar/ProgBar.h"
 
-#include <array>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
 #include <limits>
+#include <map>
+#include <random>
 
-#include "tests/progbar/Fakes.h"
+namespace {
 
-static constexpr std::int32_t kLow = std::numeric_limits<std::int32_t>::min();
-static constexpr std::int32_t kHigh = std::numeric_limits<std::int32_t>::max();
+using Limits = std::numeric_limits<std::int32_t>;
+using Values = std::map<std::string, PropertyValue>;
 
-TEST(ProgBar, ValueBoundsAndPercentFollowEachOther) {
-    using Standing = std::array<std::int32_t, 4>;  // Min, Max, Value, Percent
-    const auto value = [](ProgBar& bar, int given) { bar.Value(given); };
-    const auto min = [](ProgBar& bar, int given) { bar.Min(given); };
-    const auto max = [](ProgBar& bar, int given) { bar.Max(given); };
-    const auto percent = [](ProgBar& bar, int given) { bar.Percent(static_cast<std::uint8_t>(given)); };
-    const std::tuple<const char*, Standing, void (*)(ProgBar&, int), int, Standing> cases[] = {
-        {"below Min", {0, 100, 40, 40}, value, -5, {0, 100, 0, 0}},
-        {"above Max", {0, 100, 40, 40}, value, 250, {0, 100, 100, 100}},
-        {"33.3 %", {0, 3, 0, 0}, value, 1, {0, 3, 1, 33}},
-        {"0.29 * 100 < 29", {0, 100, 40, 40}, value, 29, {0, 100, 29, 28}},
-        {"half of -3", {-3, 0, 0, 0}, percent, 50, {-3, 0, -2, 50}},
-        {"255 %", {0, 100, 40, 40}, percent, 255, {0, 100, 100, 100}},
-        {"a bound moves Value", {0, 100, 40, 40}, max, 200, {0, 200, 80, 40}},
-        {"Min at Max", {0, 100, 40, 40}, min, 100, {99, 100, 99, 40}},
-        {"Max at Min", {10, 100, 0, 40}, max, 10, {10, 11, 10, 40}},
-        {"widest", {kLow, kHigh, 0, 0}, value, -1, {kLow, kHigh, -1, 49}},
-        {"widest, full", {kLow, kHigh, 0, 0}, percent, 100, {kLow, kHigh, kHigh, 100}},
-        {"stored equal bounds", {5, 5, 0, 70}, value, 7, {5, 5, 5, 0}},
-        {"stored crossed bounds", {10, 5, 0, 0}, value, 7, {10, 5, 5, 100}},
-        {"no room below", {0, kLow, 0, 9}, min, 3, {kLow, kLow, kLow, 9}},
-        {"no room above", {kHigh, 0, 0, 9}, max, 3, {kHigh, kHigh, kHigh, 9}},
-        {"stored 200 %", {0, 1, 0, 200}, max, kHigh, {0, kHigh, kHigh, 200}},
-    };
-    for (const auto& [what, before, write, given, after] : cases) {
-        const auto share = static_cast<std::uint8_t>(before[3]);
-        PlacedBar placed({{"Min", before[0]}, {"Max", before[1]}, {"Value", before[2]}, {"Percent", share}});
-        ProgBar& bar = placed.bar;
-        write(bar, given);
-        EXPECT_EQ((Standing{bar.Min(), bar.Max(), bar.Value(), bar.Percent()}), after) << what;
+// The keys with their defaults.
+const std::string kAsRead =
+    "BackColour 16777215 BarStartColour 255 BarEndColour 0 FillDirection 3 Max 100 Message \"\" Min 0 "
+    "Percent '\\0' ShowMessage false ShowPercent false ShowValue false Value 0 VerticalText false "
+    "BorderStyle 1 FontColour 16711680 SoundToPlay \"\" PlaySound false BarStyle 1 WaitForSound false ";
+const std::string kAsWritten =
+    "BackColour BarStartColour BarEndColour BorderStyle FillDirection FontColour Max Message Min Percent "
+    "ShowMessage ShowPercent ShowValue Value VerticalText SoundToPlay PlaySound BarStyle WaitForSound ";
+
+// A value as a number, a text as its place in the list; and a number as a value of the type at `index`.
+const std::vector<std::string> kTexts{"", "Go", "%\xC3\xA9", "\x80x\x80"};
+struct Number {
+    double operator()(const std::string& text) const {
+        return static_cast<double>(std::ranges::find(kTexts, text) - kTexts.begin());
     }
+    double operator()(std::int32_t number) const { return number; }
+};
+PropertyValue Typed(std::int32_t number, std::size_t index) {
+    const PropertyValue values[] = {number, static_cast<std::int16_t>(number),
+                                    static_cast<std::uint8_t>(number), number % 2 != 0,
+                                    kTexts[static_cast<unsigned>(number) % 4]};
+    return values[index];
 }
 
-// One write to a bar whose style and direction are stored out of range. `stored`: what the container then
-// finds under `key`; `steps`: what the host sees of the write, a repaint and the key unless given.
+double Rounded(double value) {
+    return std::isnan(value) ? 0 : std::clamp<double>(std::nearbyint(value), Limits::min(), Limits::max());
+}
+
+// Surface, container and store of a bar. Of the pixels there may be more or fewer than the surface has.
+// Characters are 4 units wide, "%" 6; they are 10 units high, "%" 12.
+struct Host : DrawingSurface, ProgBarContainer, PropertyBag {
+    int columns, rows;
+    std::vector<Colour> pixels{};
+    std::vector<std::pair<std::string, std::vector<Colour>>> told{};  // each with the picture at that moment
+    double width = 0, height = 0, unit = 10;                          // until a paint sets the scale
+    std::int32_t bits = 0, planes = 0;
+    Colour foreColour = 0;
+    std::int16_t borderStyle = 0;
+    Values stored{};
+    mutable Values defaults{};
+    mutable std::string keys{};
+
+    explicit Host(bool upright) : columns(upright ? 3 : 280), rows(upright ? 280 : 3) {}
+    Colour& Pixel(int x, int y) { return pixels.at(static_cast<unsigned>(y * columns + x)); }
+    Colour ForeColour() const override { return foreColour; }
+    void ForeColour(Colour colour) override { foreColour = colour; }
+    std::int16_t BorderStyle() const override { return borderStyle; }
+    void BorderStyle(std::int16_t style) override { borderStyle = style; }
+    double Width() const override { return width; }
+    double Height() const override { return height; }
+    std::int32_t BitsPerPixel() const override { return bits; }
+    std::int32_t Planes() const override { return planes; }
+    void FillRect(const Rect& area, Colour colour) override {
+        for (int y = std::max(area.top, 0); y < std::min(area.bottom, rows) && y < Rounded(height); ++y)
+            for (int x = std::max(area.left, 0); x < std::min(area.right, columns) && x < Rounded(width); ++x)
+                Pixel(x, y) = colour;
+    }
+    void UserScale(double w, double h) override { PropertyChanged("scale"), unit = w * h / 10000; }
+    void PixelScale() override { PropertyChanged("pixels"), unit = 10; }
+    double TextWidth(std::string_view text) const override {
+        const auto starts = std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; });
+        return static_cast<double>(4 * starts + 2 * std::ranges::count(text, '%')) * unit;
+    }
+    double TextHeight(std::string_view text) const override { return (text.ends_with('%') ? 12 : 10) * unit; }
+    void Print(double x, double y, std::string_view text) override {
+        pixels[0] = -2;
+        PropertyChanged(std::to_string(x) + ' ' + std::to_string(y) + ' ' + std::string(text));
+    }
+    void PropertyChanged(std::string_view key) override { told.emplace_back(key, pixels); }
+    PropertyValue ReadProperty(std::string_view key, const PropertyValue& byDefault) const override {
+        const auto print = [](const auto& typed) { return testing::PrintToString(typed); };
+        const std::string name(key);
+        keys += name + ' ' + std::visit(print, byDefault) + ' ';
+        defaults[name] = byDefault;
+        return stored.contains(name) ? stored.at(name) : byDefault;
+    }
+    void WriteProperty(std::string_view key, const PropertyValue& value,
+                       const PropertyValue& byDefault) override {
+        const std::string name(key);
+        keys += name + ' ';
+        EXPECT_EQ(byDefault, defaults[name]);
+        stored[name] = value;
+    }
+};
+
+// All values as numbers, and the host as a bar should leave it.
+struct Rules : Host {
+    std::map<std::string, double> now{};
+    int bands = 0;
+
+    using Host::Host;
+    double Adjusted(const std::string& key, double given) {
+        if (key == "Value") return std::min(std::max(given, now["Min"]), now["Max"]);
+        if (key == "Min") return std::min(given, std::max<double>(now["Max"] - 1, Limits::min()));
+        if (key == "Max") return std::max(given, std::min<double>(now["Min"] + 1, Limits::max()));
+        if (key == "Percent") return std::min(given, 100.0);
+        if (key == "BarStyle") return given != 0;
+        if (key == "BorderStyle") return given > 0;
+        return key == "FillDirection" && (given < 0 || given > 3) ? 3 : given;
+    }
+    void Write(const std::string& key, double given) {
+        now[key] = Adjusted(key, given);
+        const double range = now["Max"] - now["Min"];
+        std::string follows;
+        if (key == "Value") {
+            follows = "Percent";
+            now[follows] = range == 0 ? 0 : std::floor((now[key] - now["Min"]) / range * 100);
+        } else if (key == "Min" || key == "Max" || key == "Percent") {
+            follows = "Value";
+            now[follows] = Rounded(std::floor(now["Percent"] / 100 * range + now["Min"]));
+        }
+        const std::map<std::string, std::string> others{{"ShowValue", "ShowPercent"},
+                                                        {"ShowPercent", "ShowValue"}};
+        if (others.contains(key) && given != 0) now[others.at(key)] = 0, PropertyChanged(others.at(key));
+        if (key != "WaitForSound") Paint();
+        PropertyChanged(key);
+        if (!follows.empty()) PropertyChanged(follows);
+    }
+    void Paint() {
+        const double depth = 1.0 * bits * planes;
+        if (bands == 0) bands = depth == 15 ? 32 : depth == 16 || depth == 24 || depth == 32 ? 256 : 64;
+        const bool across = now["FillDirection"] > 1;
+        std::vector<Colour> along;
+        for (int at = 0; at < 280; ++at) along.push_back(ColourAt(at, Rounded(across ? width : height)));
+        for (int y = 0; y < rows && y < Rounded(height); ++y)
+            for (int x = 0; x < columns && x < Rounded(width); ++x)
+                Pixel(x, y) = along[static_cast<std::size_t>(across ? x : y)];
+        PrintCaption();
+    }
+    // Of a pixel by its distance from the left or the top; -1 where none is painted.
+    Colour ColourAt(int at, double length) {
+        const auto colour = [&](const char* key) { return static_cast<Colour>(now[key]) & 0xFFFFFF; };
+        const double direction = now["FillDirection"], filled = length / 100 * now["Percent"];
+        const bool known = direction >= 0 && direction <= 3, back = direction == 0 || direction == 2;
+        const double line = back ? length - filled : filled;
+        const bool empty = !known || (back ? at < Rounded(line) : at >= Rounded(line));
+        if (empty && now["Percent"] < 100) return colour("BackColour");
+        if (now["BarStyle"] == 1) return empty && known ? -1 : colour("BarStartColour");
+
+        // The slot of the pixel counts from the left or the top, the band there from where the bar starts.
+        const auto edge = [&](int slot) { return Rounded(length * slot / bands); };
+        const auto shown = [&](int slot) { return back ? edge(slot) > line : edge(slot + 1) < line; };
+        const int last = bands - 1;
+        int slot = 0;
+        while (slot < last && edge(slot + 1) <= at) ++slot;
+        const int band = back ? last - slot : slot;
+        if (!known || (band == last && shown(back ? 1 : last - 1))) return colour("BarEndColour");
+        const auto mixed = [&](int unit) {
+            const int start = colour("BarStartColour") / unit % 256,
+                      end = colour("BarEndColour") / unit % 256;
+            return (start * (bands - band) + end * band) / bands * unit;
+        };
+        return shown(slot) ? mixed(1) + mixed(256) + mixed(65536) : -1;
+    }
+    void PrintCaption() {
+        const bool message = now["ShowMessage"] != 0, share = now["ShowPercent"] != 0,
+                   value = now["ShowValue"] != 0;
+        if (!message && !share && !value) return;
+        UserScale(100, 100);
+        const auto digits = [&](const char* key) { return std::to_string(static_cast<int>(now[key])); };
+        const bool down = now["VerticalText"] != 0;
+        std::string text = message ? kTexts[static_cast<std::size_t>(now["Message"])] : "";
+        if ((share || value) && !text.empty()) text += ' ';
+        text += share ? digits("Percent") + '%' : value ? digits("Value") + '/' + digits("Max") : "";
+        std::vector<std::string> parts(down ? 0 : 1);
+        for (const char c : text) {
+            if (parts.empty() || (down && (c & 0xC0) != 0x80)) parts.emplace_back();
+            parts.back() += c;
+        }
+        double y = 50;
+        for (const std::string& part : parts) y -= TextHeight(part) / 2;
+        for (const std::string& part : parts) Print(50 - TextWidth(part) / 2, y, part), y += TextHeight(part);
+        PixelScale();
+    }
+};
+
 template <class T>
-static void ExpectWrite(void (ProgBar::*write)(T), T given, const std::string& key,
-                        const PropertyValue& stored, const std::string& steps = "") {
-    PlacedBar placed({{"BarStyle", 5}, {"FillDirection", 5}});
-    (placed.bar.*write)(given);
-    EXPECT_EQ(placed.host.log, steps.empty() ? "paint;" + key + ';' : steps);
-    EXPECT_EQ(placed.Saved()[key], stored) << key;
+std::function<void(ProgBar&, const PropertyValue&)> Writer(void (ProgBar::*write)(T)) {
+    return [write](ProgBar& bar, const PropertyValue& given) { (bar.*write)(std::get<T>(given)); };
 }
+#define WRITER(key) std::pair(std::string(#key), Writer(&ProgBar::key))
+const std::vector kWriters{WRITER(Value),        WRITER(Min),
+                           WRITER(Max),          WRITER(Percent),
+                           WRITER(ShowValue),    WRITER(ShowPercent),
+                           WRITER(ShowMessage),  WRITER(Message),
+                           WRITER(VerticalText), WRITER(FontColour),
+                           WRITER(BarStyle),     WRITER(FillDirection),
+                           WRITER(BorderStyle),  WRITER(BarStartColour),
+                           WRITER(BarEndColour), WRITER(BackColour),
+                           WRITER(WaitForSound)};
 
-TEST(ProgBar, AWriteAdjustsStoresPaintsAndNotifiesInThisOrder) {
-    using B = ProgBar;
-    ExpectWrite(&B::Value, 7, "Value", 7, "paint;Value;Percent;");
-    ExpectWrite(&B::Min, 7, "Min", 7, "paint;Min;Value;");
-    ExpectWrite(&B::Max, 7, "Max", 7, "paint;Max;Value;");
-    ExpectWrite<std::uint8_t>(&B::Percent, 7, "Percent", std::uint8_t{7}, "paint;Percent;Value;");
-    ExpectWrite(&B::ShowMessage, true, "ShowMessage", true, "paint;scale;50,45 ;pixels;ShowMessage;");
-    ExpectWrite(&B::ShowValue, true, "ShowValue", true,
-                "ShowPercent;paint;scale;40,45 0/100;pixels;ShowValue;");
-    ExpectWrite(&B::ShowPercent, true, "ShowPercent", true,
-                "ShowValue;paint;scale;45,44 0%;pixels;ShowPercent;");
-    ExpectWrite(&B::WaitForSound, true, "WaitForSound", true, "WaitForSound;");
-    ExpectWrite(&B::VerticalText, true, "VerticalText", true);
-    ExpectWrite<std::string>(&B::Message, "Go", "Message", "Go");
-    ExpectWrite(&B::FontColour, 7, "FontColour", 7);
-    ExpectWrite(&B::BarStartColour, 7, "BarStartColour", 7);
-    ExpectWrite(&B::BarEndColour, 7, "BarEndColour", 7);
-    ExpectWrite(&B::BackColour, 7, "BackColour", 7);
-    for (const auto& [given, stored] : {std::pair{0, 0}, {-1, 1}, {7, 1}})
-        ExpectWrite(&B::BarStyle, given, "BarStyle", stored);
-    for (const auto& [given, stored] : {std::pair{0, 0}, {-1, 3}, {4, 3}})
-        ExpectWrite(&B::FillDirection, given, "FillDirection", stored);
-    for (const auto& [given, stored] : {std::pair<std::int32_t, std::int16_t>{-5, 0}, {9, 1}})
-        ExpectWrite(&B::BorderStyle, given, "BorderStyle", stored);
-}
+}  // namespace
 
-TEST(ProgBar, ValueAndPercentCaptionsExcludeEachOther) {
-    PlacedBar placed;
-    ProgBar& bar = placed.bar;
-    bar.ShowPercent(true), bar.ShowValue(false);
-    EXPECT_TRUE(bar.ShowPercent());
-    bar.ShowValue(true), bar.ShowPercent(false);
-    EXPECT_TRUE(bar.ShowValue() && !bar.ShowPercent());
-    bar.ShowPercent(true);
-    EXPECT_FALSE(bar.ShowValue());
-    placed.host.log.clear();
-    bar.UserControl_Resize();
-    EXPECT_EQ(placed.host.log, "paint;scale;45,44 0%;pixels;");
+TEST(ProgBar, KeepsItsRulesInRandomSessions) {
+    for (unsigned seed = 1; seed <= 60; ++seed) {
+        std::mt19937 dice(seed);
+        const auto oneOf = [&](const auto& list) { return list[dice() % std::size(list)]; };
+        const auto number = [&] {
+            const int any = static_cast<int>(dice()), plain = any / 8 % 110;
+            return oneOf(std::array{Limits::min(), Limits::min() + 1, Limits::max() - 1, Limits::max(), any,
+                                    29, plain, plain, any % 6, any % 6, any % 2, 97 + any % 4, 97 + any % 4});
+        };
+        Host host(seed % 2 == 0);
+        Rules rules(seed % 2 == 0);
+        ProgBar bar(host, host);
+        bar.UserControl_ReadProperties(host);
+        EXPECT_EQ(host.keys, kAsRead);
+        const Values initial = host.defaults;
+        const auto reset = [&] {
+            for (const auto& [key, value] : initial) rules.now[key] = std::visit(Number(), value);
+        };
+        reset();
+        for (int step = 0; step < 100; ++step) {
+            const double any = static_cast<double>(dice() % 600) / 2;
+            host.width = oneOf(std::array{any, any, 13.0, 14.0, 200.0, 200.0, -2.0, 1e300, std::nan("")});
+            host.height = oneOf(std::array{any, any, 13.0, 263.0, 200.0, 200.0, -2.0, 1e300, std::nan("")});
+            host.bits = oneOf(std::array{24, 32, 15, 8, 4, 1, 0, (1 << 29) + 3});
+            host.planes = oneOf(std::array{1, 1, 2, 4, 8});
+            host.pixels.assign(840, -1), host.told.clear(), host.stored.clear();
+            static_cast<Host&>(rules) = host;
+
+            const auto& [key, write] = oneOf(kWriters);
+            SCOPED_TRACE(testing::Message() << "seed " << seed << ", step " << step << ", perhaps " << key);
+            const PropertyValue given = Typed(number(), key == "BorderStyle" ? 0 : initial.at(key).index());
+            const auto event = dice() % 16;
+            if (event < 2) reset();
+            for (const auto& [name, value] : initial) {
+                if (event != 0 || dice() % 2 == 0) continue;
+                const std::size_t type = dice() % 8 == 0 ? dice() % 5 : value.index();
+                host.stored[name] = Typed(number(), type);
+                if (type == value.index()) rules.now[name] = std::visit(Number(), host.stored[name]);
+            }
+            if (event == 0) bar.UserControl_ReadProperties(host);
+            if (event == 1) bar.UserControl_InitProperties();
+            if (event == 2) bar.UserControl_Paint(), rules.Paint();
+            if (event == 3) bar.UserControl_Resize(), rules.Paint();
+            if (event > 3) write(bar, given), rules.Write(key, std::visit(Number(), given));
+            host.stored.clear(), host.keys.clear();
+            bar.UserControl_WriteProperties(host);
+            ASSERT_EQ(host.keys, kAsWritten);
+            for (const auto& [name, value] : host.stored)
+                ASSERT_EQ(std::visit(Number(), value), rules.now[name]) << name;
+            ASSERT_EQ(host.told, rules.told);
+            ASSERT_EQ(host.pixels, rules.pixels);
+        }
+    }
 }
