@@ -3,76 +3,59 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QPainter>
 
 #include "tests/support/PaintWatch.h"
 
-namespace {
-
-struct NoContainer final : ProgBarContainer {
-    void PropertyChanged(std::string_view /*key*/) override {}
-};
-
-// The smallest rectangle that holds every pixel for which `wanted` says so.
-template <class Wanted>
-QRect Bounds(const QImage& image, Wanted wanted) {
-    QRect bounds;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (wanted(image.pixel(x, y))) bounds |= QRect(x, y, 1, 1);
-    return bounds;
-}
-
-QRect Bounds(const QImage& image, QRgb colour) {
-    return Bounds(image, [colour](QRgb pixel) { return pixel == colour; });
-}
-
-}  // namespace
-
 TEST(TimeBar, ATickPaintsTheRowsItFills) {
-    TimeBar bar(nullptr, {"bar", {0, 0, 20 * kTwipsPerPixel, 200 * kTwipsPerPixel}, {}}, TimeBarDesign());
+    TimeBar bar(nullptr, {"bar", {0, 0, 20 * kTwipsPerPixel, 100 * kTwipsPerPixel}, {}}, TimeBarDesign());
     bar.show();
     QCoreApplication::processEvents();
     PaintWatch watch(bar);
-    const auto paintedAt = [&](int value) {
+    const auto painted = [&](int value, Colour back) {
         watch.painted = {};
-        bar.Value(value);
+        bar.Bar().BackColour(back), bar.Value(value);
         QCoreApplication::processEvents();
         return watch.painted.boundingRect();
     };
-    const auto filled = [&] { return Bounds(bar.grab().toImage(), 0xFFE0E0E0); };
-    const QRect first = paintedAt(30);
-    EXPECT_EQ(first, filled());
-    const int reached = filled().bottom();
-    EXPECT_NEAR(reached, 60, 2);
-    const QRect tick = paintedAt(33);
-    EXPECT_EQ(tick, filled().adjusted(0, reached + 1, 0, 0));
-    EXPECT_NEAR(tick.height(), 6, 1);
-    EXPECT_TRUE(paintedAt(33).isEmpty());
-    EXPECT_TRUE(tick.contains(paintedAt(30)));
+    // The row before the fill line is left as it was.
+    EXPECT_EQ(painted(30, 0x404040), QRect(0, 0, 20, 29));
+    EXPECT_EQ(painted(31, 0x404040), QRect(0, 29, 20, 1));
+    EXPECT_EQ(bar.grab().toImage().pixel(19, 29), 0xFFE0E0E0);
+    EXPECT_EQ(bar.grab().toImage().pixel(19, 30), 0xFF404040);
+    EXPECT_EQ(painted(31, 0x404040), QRect());
+    EXPECT_EQ(painted(31, 0), QRect(0, 31, 20, 69));
 }
 
-TEST(BarSurface, PrintsTheCaptionInsideTheBorder) {
+TEST(BarSurface, FillsAndPrintsInsideItsBorder) {
     for (const int scale : {1, 2}) {
         BarSurface surface;
-        surface.Resize(QSize(120, 40) * scale, scale);
-        NoContainer container;
-        ProgBar bar(surface, container);
-        bar.UserControl_InitProperties();
-        bar.BorderStyle(1);
-        bar.BackColour(0x00FFFF);
-        bar.BarStartColour(0x00FF00);
-        bar.FontColour(0x0000FF);
-        bar.Percent(50);
-        bar.ShowPercent(true);
-        const QRect inside = QRect(QPoint(0, 0), surface.Pixels().size()).adjusted(1, 1, -1, -1);
-        EXPECT_EQ(Bounds(surface.Pixels(), 0xFF000000), inside.adjusted(-1, -1, 1, 1));
-        EXPECT_EQ(Bounds(surface.Pixels(), 0xFFFFFF00).right(), inside.right());
-        EXPECT_EQ(Bounds(surface.Pixels(), 0xFF00FF00).left(), inside.left());
-        const QRect ink = Bounds(surface.Pixels(), [](QRgb pixel) {
-            return pixel != 0xFF000000 && pixel != 0xFF00FF00 && pixel != 0xFFFFFF00;
-        });
+        surface.BorderStyle(1);
+        surface.Resize(QSize(60, 40) * scale, scale);
+        QImage expected(surface.Pixels().size(), QImage::Format_RGB32);
+        expected.fill(Qt::black);
+        const QRect inside = expected.rect().adjusted(1, 1, -1, -1);
+        for (const Rect& area : {Rect{-5, -5, 500, 500}, {3, 4, 7, 4}, {9, -1, 11, 30}, {50, 21, 500, 22}}) {
+            surface.FillRect(area, 0x7F123400 + area.bottom % 100);  // the high byte is no colour
+            const QRect filled(QPoint(area.left + 1, area.top + 1), QPoint(area.right, area.bottom));
+            QPainter(&expected).fillRect(filled & inside, QColor(area.bottom % 100, 0x34, 0x12));
+        }
+        EXPECT_EQ(surface.Pixels(), expected);
+        surface.ForeColour(0x0000FF);
+        surface.UserScale(100, 100);
+        surface.Print(50 - surface.TextWidth("50%") / 2, 50 - surface.TextHeight("50%") / 2, "50%");
+        QRect ink;
+        for (int i = 0; i < expected.width() * expected.height(); ++i) {
+            const QPoint at(i % expected.width(), i / expected.width());
+            if (surface.Pixels().pixelColor(at).red() > 0x80) ink |= QRect(at, QSize(1, 1)) & inside;
+        }
         EXPECT_LE((ink.center() - inside.center()).manhattanLength(), 4 * scale);
         EXPECT_GE(ink.width(), 15 * scale);
         EXPECT_LE(ink.height(), 12 * scale);
     }
+    BarSurface nothing;
+    nothing.Resize(QSize(0, 0), 1);
+    nothing.UserScale(100, 100);
+    nothing.FillRect({0, 0, 1, 1}, 0);
+    EXPECT_EQ(nothing.TextWidth("a") + nothing.TextHeight("a"), 0);
 }
