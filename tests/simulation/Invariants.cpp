@@ -6,7 +6,6 @@
 #include "model/Levels.h"
 #include "screen/Look.h"
 #include "screen/ScoreText.h"
-#include "screen/Spoken.h"
 #include "tests/simulation/Simulation.h"
 
 namespace {
@@ -25,6 +24,7 @@ std::string OneScreen(const Simulation& w) {
     const auto& screens = w.form->fraScreen;
     const auto shown =
         std::count_if(screens.begin(), screens.end(), [](const Frame& f) { return f.Visible(); });
+    if (w.form->lblNextCard.Visible() != screens[2].Visible()) return "next card";
     return If(shown != 1, std::to_string(shown) + " screens");
 }
 
@@ -38,26 +38,56 @@ std::string CardsOnBoard(const Simulation& w) {
     return If(locked != w.Model().CardsInMatrix(), std::to_string(locked) + " cards counted otherwise");
 }
 
-Picture LockedIn(const Simulation& w, std::int16_t cell) {
-    const CardInfo& card = w.Model().CardAt(cell);
-    return card.Quantity == kNoCard ? Picture() : w.form->PicClip1.Cell(card.Number);
+bool Occupied(const Simulation& w, std::int16_t cell) {
+    return w.Model().CardAt(cell).Quantity != kNoCard;
 }
 
-// Covered in a pause; otherwise each cell its locked card, and the active card over that of its cell.
-std::string Pictures(const Simulation& w) {
+Picture LockedIn(const Simulation& w, std::int16_t cell) {
+    return Occupied(w, cell) ? w.Card(w.Model().CardAt(cell).Number) : Picture();
+}
+
+std::string Card(int kind) {
+    if (kind > kLastOrdinaryKind) return "eraser";
+    return "shape " + std::to_string(kind / 12 + 1) + ", colour " + std::to_string(kind % 3 + 1) +
+           ", quantity " + std::to_string(kind / 3 % 4 + 1);
+}
+
+std::string Words(const Simulation& w, std::int16_t cell) {
+    if (w.form->play == Play::Paused) return "covered";
+    const std::string locked = Occupied(w, cell) ? Card(w.Model().CardAt(cell).Number) : "empty";
+    if (cell != w.Model().PosCurrentCard()) return locked;
+    return Card(w.Model().CurrentCard()) + ", active card" +
+           (Occupied(w, cell) ? ", shaded, over " + locked : "");
+}
+
+// Covered in a pause; otherwise each cell its locked card, and the active card over that of its cell. The
+// words for those who do not see it say the same.
+std::string Board(const Simulation& w) {
     if (!w.PlayersGame() || w.stepLeftOver) return {};
     const bool paused = w.form->play == Play::Paused;
     for (std::int16_t cell = 0; cell < kCells; ++cell) {
         const bool active = !paused && cell == w.Model().PosCurrentCard();
-        const Picture due = paused   ? w.form->PicClip1.Cell(kCoverKind)
-                            : active ? w.form->PicClip1.Cell(w.Model().CurrentCard())
+        const Picture due = paused   ? w.Card(kCoverKind)
+                            : active ? w.Card(w.Model().CurrentCard())
                                      : LockedIn(w, cell);
-        const std::size_t drawings = !active ? 0 : LockedIn(w, cell).IsEmpty() ? 1 : 2;
-        const PictureContents& shown = w.form->picMat[std::size_t(cell)].Contents();
-        if (shown.picture != due || shown.drawings.size() != drawings || IsActive(*w.form, cell) != active)
-            return "cell " + std::to_string(cell);
+        const std::size_t drawings = !active ? 0 : Occupied(w, cell) ? 2 : 1;
+        const PictureContents& shown = w.Cell(cell).Contents();
+        const std::string words = "Row " + std::to_string(cell / 4 + 1) + ", column " +
+                                  std::to_string(cell % 4 + 1) + ": " + Words(w, cell);
+        if (shown.picture != due || shown.drawings.size() != drawings) return "not " + words;
+        if (w.BoardShown() && w.Cell(cell).access.name().toStdString() != words) return "not said: " + words;
     }
     return {};
+}
+
+// What covers the board at the end stays until the next game.
+std::string End(const Simulation& w) {
+    const bool ended = w.before.play == Play::On && w.form->play == Play::Off && w.BoardShown() &&
+                       w.random.games == w.before.games && w.dialogs.told.isEmpty() && !w.inDemo &&
+                       !w.stepLeftOver;
+    const auto covered = [&w](const PictureBox& box) { return box.Picture() == w.Card(kCoverKind); };
+    return If(ended && !(std::ranges::all_of(w.form->picMat, covered) && covered(w.form->picPreview)),
+              "shows a card");
 }
 
 std::string KeptAside(const Simulation& w) {
@@ -68,12 +98,12 @@ std::string KeptAside(const Simulation& w) {
 std::string Preview(const Simulation& w) {
     const bool next = w.BoardShown() && w.PlayersGame();
     if (w.stepLeftOver || (w.BoardShown() && !next)) return {};
-    const Picture due = next ? w.form->PicClip1.Cell(w.Model().NextCard()) : Picture();
+    const Picture due = next ? w.Card(w.Model().NextCard()) : Picture();
     return If(w.form->picPreview.Picture() != due, next ? "not the next card" : "a card beside the screen");
 }
 
 std::string Score(const Simulation& w) {
-    const bool same = w.dealer.games == w.before.games && w.dealer.games > 0;
+    const bool same = w.random.games == w.before.games && w.random.games > 0;
     if (same && w.Model().Score() < w.before.score) return "has fallen";
     return Not(w.form->lblScore.Caption(), QLocale().toString(w.Model().Score()));
 }
@@ -81,19 +111,19 @@ std::string Score(const Simulation& w) {
 // A lock that scores nothing leaves the points of the latest one that did; a new game none.
 std::string PointsOfTheLock(const Simulation& w) {
     const std::int32_t points = w.Model().SerieScore();
-    const bool stays = points == 0 && w.dealer.turns > 0;
+    const bool stays = points == 0 && w.random.turns > 0;
     return stays ? std::string() : Not(w.form->lblSerieScore.Caption(), QString::number(points));
 }
 
 std::string CardsLeft(const Simulation& w) {
-    if (w.dealer.games == 0) return {};
+    if (w.random.games == 0) return {};
     return Not(w.form->lblCardsLeft.Caption(), QString::number(w.Model().CardSum() - w.Model().CardsUsed()));
 }
 
 // No limit for the first card, on other screens, in pauses and after the end.
 std::string Timers(const Simulation& w) {
     if (w.inDemo || (w.BoardShown() && w.form->play == Play::On && !w.PlayersGame())) return {};
-    const bool due = w.BoardShown() && w.form->play == Play::On && w.dealer.turns > 0;
+    const bool due = w.BoardShown() && w.form->play == Play::On && w.random.turns > 0;
     if (w.form->Timer1.Enabled() != due || w.form->Timer2.Enabled() != due) return due ? "stand" : "run";
     const int limit = LockTime(w.Model().SetLevel(), w.Model().CardsInMatrix());
     if (due && w.form->Timer1.Interval() != limit) return "have the limit of another board";
@@ -106,7 +136,7 @@ std::string LockByTime(const Simulation& w) {
     if (!w.passing || w.inDemo) return {};
     const bool limited = w.before.timeCounts && w.before.interval > 0;
     const bool over = w.time.Now() - w.before.now >= std::chrono::milliseconds(w.before.interval);
-    const bool locked = w.dealer.turns != w.before.turns || w.form->play != w.before.play;
+    const bool locked = w.random.turns != w.before.turns || w.form->play != w.before.play;
     return If(locked ? !limited : limited && over, locked ? "without a limit" : "none when time was up");
 }
 
@@ -134,7 +164,9 @@ std::string Level(const Simulation& w) {
     const int level = w.form->CurrentLevel;
     for (int i = 0; i < kLevels; ++i)
         if ((w.form->lblClass[std::size_t(i)].ForeColor() == kRed) != (i == level)) return "red at another";
-    const QString name = w.form->lblClass[std::size_t(level)].Caption();
+    const Label& label = w.form->lblClass[std::size_t(level)];
+    if (!w.form->shpLevel.geometry().contains(label.geometry().center())) return "marked at another";
+    const QString name = label.Caption();
     if (w.form->prbTime.Visible() != (level > 0)) return "and its bar differ";
     return If(w.Model().SetLevel() != level || w.form->lblLevelName.Caption() != name, "told differently");
 }
@@ -153,8 +185,8 @@ std::string Focus(const Simulation& w) {
 
 // No entry gets lost but the last, and that to a better one.
 std::string HighScores(const Simulation& w) {
-    if (w.store.Bytes() == w.before.store) return {};
-    std::vector<HighScore> table = w.StoredTable(), old = w.before.table;
+    if (w.Bytes() == w.before.store) return {};
+    std::vector<HighScore> table = StoredTable(w), old = w.before.table;
     const auto points = [](const HighScore& entry) { return ScoreFromText(entry.score); };
     const auto same = [](const HighScore& a, const HighScore& b) {
         return a.name == b.name && a.date == b.date && a.score == b.score;
@@ -173,7 +205,7 @@ std::string HighScores(const Simulation& w) {
 std::string SkinFiles(const Simulation& w) {
     int lost = 0;
     for (const QString& file : w.before.files) lost += QFile::exists(w.Art(file)) ? 0 : 1;
-    return If(lost > w.dialogs.confirmed, "lost without a yes");
+    return If(lost > w.confirmed, "lost without a yes");
 }
 
 // A thumbnail, a card's shade and its frame, or a frame in either colour.
@@ -185,12 +217,13 @@ std::string Drawings(const Simulation& w) {
 
 }  // namespace
 
-const std::vector<Invariant>& Invariants() {
-    static const std::vector<Invariant> invariants{
+std::string Broken(const Simulation& world) {
+    constexpr std::pair<const char*, std::string (*)(const Simulation&)> invariants[] = {
         {"screens", OneScreen},
         {"input lock", InputLock},
         {"cards", CardsOnBoard},
-        {"pictures", Pictures},
+        {"board", Board},
+        {"end", End},
         {"kept aside", KeptAside},
         {"preview", Preview},
         {"score", Score},
@@ -207,5 +240,7 @@ const std::vector<Invariant>& Invariants() {
         {"skin files", SkinFiles},
         {"drawings", Drawings},
     };
-    return invariants;
+    for (const auto& [name, broken] : invariants)
+        if (const std::string what = broken(world); !what.empty()) return name + (": " + what);
+    return {};
 }

@@ -4,7 +4,6 @@
 #include <QTest>
 
 #include "screen/Look.h"
-#include "shell/mdlRegistry.h"
 
 using namespace std::chrono_literals;
 
@@ -15,33 +14,21 @@ constexpr unsigned kMostCalls = 16;  // a demonstration's, that an event lets go
 // Real clicks of one simulated world never make a double click with those of the next.
 std::chrono::milliseconds timestamp{0};
 
-void Mix(std::uint64_t& hash, std::uint64_t value) {
-    hash = (hash ^ value) * 0x100000001B3;
-}
-
 }  // namespace
 
-Script MakeScript(unsigned seed, std::size_t count) {
-    std::vector<std::size_t> lots;  // each kind as often as it weighs
-    for (std::size_t kind = 0; kind < EventKinds().size(); ++kind)
-        lots.insert(lots.end(), EventKinds()[kind].weight, kind);
-    std::mt19937 chance(seed);
-    Script script(count);
-    for (Event& event : script) {
-        event.kind = lots[chance() % lots.size()];
-        event.choice = static_cast<std::uint32_t>(chance());
-    }
-    return script;
-}
-
-Simulation::Simulation(unsigned seed) : dealer(seed) {
+Simulation::Simulation(unsigned seed) {
     timestamp += 10s;
-    QDir(folder.path()).mkdir(QStringLiteral("Art"));
-    for (const char* skin : {"sea.png", "night.png"}) WriteSkin(Art(skin));
+    random.rest.seed(seed);
+    WriteSkin(Art("night.png"));
     time.onProcessEvents = [this] { Inside(); };
+    dialogs.meanwhile = [this] {  // a player who takes three seconds, and says yes to every other question
+        time.Pass(3s);
+        dialogs.answer = !dialogs.answer;
+        confirmed += dialogs.answer;
+    };
     otherWindow.setGeometry(500, 500, 50, 50);
     otherWindow.show();
-    Open();
+    Restart();
     Mouse(QEvent::MouseMove, {1, 1}, Qt::NoButton);
     Remember();
 }
@@ -51,13 +38,10 @@ Simulation::~Simulation() {
         if (held_ & button) Mouse(QEvent::MouseButtonRelease, {1, 1}, button);
 }
 
-void Simulation::Open() {
-    if (form) gamesBefore += dealer.games;
-    form.reset();
-    ended = false;
-    dealer.games = dealer.turns = 0;
-    form = std::make_unique<frmGame>(World{time, dealer, dialogs, soundFiles, ProgramFolder(folder.path()),
-                                           [this] { ended = form->StopDemo = true; }, [](const QString&) {}});
+void Simulation::Restart() {
+    gamesBefore += random.games;
+    random.games = random.turns = 0;
+    Open();
     form->show();
     Attend();
 }
@@ -68,10 +52,10 @@ void Simulation::Play(const Script& events) {
     while (next_ < events.size() && broken.empty()) {
         Happen(events[next_++]);
         if (!broken.empty() || IsOpen()) continue;
-        Open();
+        Restart();
         Check(events[next_ - 1]);
     }
-    happened = next_;
+    events_ = nullptr;
 }
 
 void Simulation::Inside() {
@@ -86,7 +70,8 @@ void Simulation::Inside() {
 }
 
 void Simulation::Happen(const Event& event) {
-    dialogs.confirmed = 0;
+    confirmed = 0;
+    dialogs.told.clear();
     const EventKind& kind = EventKinds()[event.kind];
     if (kind.byPlayer) Attend();
     kind.happen(*this, event.choice);
@@ -96,51 +81,34 @@ void Simulation::Happen(const Event& event) {
 }
 
 void Simulation::Check(const Event& event) {
-    if (!inDemo && dealer.games != before.games) stepLeftOver = false;
-    for (const Invariant& invariant : Invariants())
-        if (const std::string what = invariant.broken(*this); !what.empty()) {
-            broken = std::string(invariant.name) + ": " + what;
-            return;
-        }
+    if (!inDemo && random.games != before.games) stepLeftOver = false;
+    broken = Broken(*this);
+    if (!broken.empty()) broken += std::string(", after ") + EventKinds()[event.kind].name;
     Remember();
-    const QWidget* focus = QApplication::focusWidget();
-    for (const std::uint64_t seen :
-         {std::uint64_t(event.kind), std::uint64_t(time.Now().count()), std::uint64_t(form->play),
-          std::uint64_t(Model().Score()), std::uint64_t(Model().PosCurrentCard()),
-          std::uint64_t(Model().CurrentCard()), std::uint64_t(Model().CardsInMatrix()),
-          std::uint64_t(form->SkinCount), std::uint64_t(form->CurrentMenu),
-          std::uint64_t(before.files.size()), std::uint64_t(focus ? qHash(focus->objectName()) : 0),
-          std::uint64_t(qHash(before.store))})
-        Mix(trace, seen);
 }
 
 void Simulation::Remember() {
-    before.games = dealer.games;
-    before.turns = dealer.turns;
-    before.score = Model().Score();
-    before.play = form->play;
-    before.timeCounts = form->Timer1.Enabled();
-    before.interval = form->Timer1.Interval();
-    before.now = time.Now();
+    const int unlit = form->fraScreen[3].Visible() ? form->CurrentMenu : before.unlitMenu;
+    const bool anyLit = std::ranges::any_of(
+        form->lblCaption, [](const Label& label) { return label.ForeColor() == Look::kLitCaption; });
+    before.games = random.games, before.turns = random.turns, before.score = Model().Score();
+    before.play = form->play, before.now = time.Now();
+    before.timeCounts = form->Timer1.Enabled(), before.interval = form->Timer1.Interval();
+    before.unlitMenu = anyLit && !form->fraScreen[3].Visible() ? -1 : unlit;
+    if (const QByteArray bytes = Bytes(); bytes != before.store)
+        before.store = bytes, before.table = StoredTable(*this);
     before.files.clear();
     for (const QString& file : QDir(Art()).entryList(QDir::Files | QDir::Hidden)) before.files.insert(file);
-    for (std::size_t i = 0; i < form->lblCaption.size(); ++i)
-        if (form->lblCaption[i].ForeColor() == Look::kLitCaption) before.unlitMenu = -1;
-    if (form->fraScreen[3].Visible()) before.unlitMenu = form->CurrentMenu;
-    if (QByteArray bytes = store.Bytes(); bytes != before.store) {
-        before.store = bytes;
-        before.table = StoredTable();
-    }
 }
 
-std::vector<HighScore> Simulation::StoredTable() const {
-    std::vector<HighScore> table(kHighScores);
-    for (std::size_t row = 0; row < table.size(); ++row) {
+std::vector<HighScore> StoredTable(const Simulation& world) {
+    std::vector<HighScore> table;
+    for (int row = 0; row < kHighScores; ++row) {
         const auto read = [&](const char* column) {
             const QString path = QStringLiteral("Software\\Tesselor\\") + column;
-            return store.hive.String(path, QString::number(row)).value_or(QString());
+            return world.hive.String(path, QString::number(row)).value_or(QString());
         };
-        table[row] = {read("Name"), read("Date"), read("Score")};
+        table.push_back({read("Name"), read("Date"), read("Score")});
     }
     return table;
 }
@@ -149,8 +117,7 @@ std::vector<HighScore> Simulation::StoredTable() const {
 
 void Simulation::Attend() {
     if (form->isMinimized()) form->showNormal();
-    if (!QGuiApplication::focusWindow()) form->activateWindow();
-    if (otherWindow.isActiveWindow()) form->activateWindow();
+    if (!QGuiApplication::focusWindow() || otherWindow.isActiveWindow()) form->activateWindow();
     QCoreApplication::processEvents();
 }
 

@@ -10,13 +10,14 @@
 #include "screen/frmGame.h"
 #include "tests/support/VirtualTime.h"
 
-// Random numbers as a test wants them: those it names first, then a fixed sequence.
+// Random numbers as a test wants them: those it names first, then a fixed sequence. Knows the beginning of a
+// game by its first card, the only kind drawn without re-seeding, and counts the turns by the cards after it.
 class ScriptedRandom final : public RandomSource {
 public:
-    void Reseed() override {}
+    void Reseed() override { reseeded_ = true; }
     std::int16_t Below(std::int16_t count) override {
-        if (script.empty())
-            return std::uniform_int_distribution<std::int16_t>(0, std::int16_t(count - 1))(rest);
+        if (count == kCardKinds) CountCard();
+        if (script.empty()) return static_cast<std::int16_t>(rest() % static_cast<unsigned>(count));
         const std::int16_t value = script.front();
         script.pop_front();
         return value;
@@ -24,28 +25,35 @@ public:
 
     std::deque<std::int16_t> script;
     std::mt19937 rest{20261124};
+    int games = 0, turns = 0;
+
+private:
+    void CountCard() {
+        const bool begins = !std::exchange(reseeded_, false);
+        turns = begins ? 0 : turns + 1;
+        games += begins;
+    }
+    bool reseeded_ = false;
 };
 
 // Message boxes that answer at once and remember what they said.
 class AnsweredDialogs final : public Dialogs {
 public:
-    void Tell(QWidget*, const QString& sentence) override { told.append(sentence); }
-    bool Ask(QWidget*, const QString& question) override {
-        told.append(question);
-        return answer;
+    void Tell(QWidget*, const QString& sentence) override {
+        told.append(sentence);
+        if (meanwhile) meanwhile();
     }
+    bool Ask(QWidget* owner, const QString& question) override { return Tell(owner, question), answer; }
 
     QStringList told;
     bool answer = false;
+    std::function<void()> meanwhile;  // happens while a box is open
 };
 
 // Remembers the sounds that would be heard, as the bytes of their files.
 class RecordedSounds final : public SoundOutput {
 public:
-    bool Play(const QByteArray& wave) override {
-        heard.append(wave);
-        return true;
-    }
+    bool Play(const QByteArray& wave) override { return heard.append(wave), true; }
 
     QList<QByteArray> heard;
 };
@@ -66,15 +74,17 @@ class GameWindow {
 public:
     explicit GameWindow(bool withSkin = true) {
         QDir(folder.path()).mkdir(QStringLiteral("Art"));
-        if (withSkin) WriteSkin(folder.filePath(QStringLiteral("Art/test.png")));
+        if (withSkin) WriteSkin(Art("test.png"));
         Open();
     }
 
     void Open() {
         form.reset();
-        form = std::make_unique<frmGame>(World{time, random, dialogs, soundFiles,
-                                               ProgramFolder(folder.path()), [this] { ended = true; },
-                                               [this](const QString& address) { opened.append(address); }});
+        ended = false;
+        form =
+            std::make_unique<frmGame>(World{time, random, dialogs, soundFiles, ProgramFolder(folder.path()),
+                                            [this] { ended = form->StopDemo = true; },
+                                            [this](const QString& address) { opened.append(address); }});
     }
     void Play(int level = 0) {
         form->lblClass_Click(static_cast<std::int16_t>(level));
@@ -98,9 +108,10 @@ public:
         Lock();
     }
     void RightClick() { form->picMat_MouseDown(0, 2, 0, 0, 0); }
-    [[nodiscard]] clsCard& Model() { return form->Game(); }
-    [[nodiscard]] Picture Card(int kind) { return form->PicClip1.Cell(kind); }
-    [[nodiscard]] const PictureBox& Cell(int cell) { return form->picMat[std::size_t(cell)]; }
+    [[nodiscard]] clsCard& Model() const { return form->Game(); }
+    [[nodiscard]] Picture Card(int kind) const { return form->PicClip1.Cell(kind); }
+    [[nodiscard]] const PictureBox& Cell(int cell) const { return form->picMat[std::size_t(cell)]; }
+    [[nodiscard]] QString Art(const QString& file = {}) const { return folder.filePath("Art/" + file); }
 
     QTemporaryDir folder;
     VirtualTime time;

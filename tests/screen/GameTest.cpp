@@ -1,35 +1,28 @@
+// A turn and a game on virtual time, where random play does not look closely enough.
+
 #include <gtest/gtest.h>
+
+#include <QCoreApplication>
 
 #include "tests/support/GameWindow.h"
 #include "tests/support/PaintWatch.h"
 
 using namespace std::chrono_literals;
 
-static constexpr int kJunior = 1, kExpert = 3, kMaster = 4;
+namespace {
 
-TEST(TurnCycle, LocksALateCardExactlyWhenItsTimeIsUp) {
-    GameWindow game;
-    game.PlayKinds({0, 16, 32, 0}, kMaster);
-    game.time.Pass(60s);  // the first card has no limit
-    EXPECT_EQ(game.Model().CardsInMatrix(), 0);
-    game.Lock();
-    game.random.script = {7, 16, 32};
-    game.time.Pass(2155ms);
-    EXPECT_EQ(game.Model().CardsInMatrix(), 1);
-    game.time.Pass(1ms);
-    EXPECT_EQ(game.Model().CardAt(7).Number, 16);
-    EXPECT_FALSE(game.Model().RndAction());
-    EXPECT_EQ(game.form->Timer1.Interval(), 2112);  // 2112.5, a tie
-}
+constexpr int kJunior = 1, kExpert = 3, kMaster = 4;
 
-TEST(TurnCycle, MovesTheTimeBarWithTheLevel) {
+TEST(Game, MovesTheTimeBarWithTheLevel) {
     const std::tuple<const char*, int, std::chrono::milliseconds, int> cases[] = {
         {"practice: never", 0, 60s, 0},
         {"junior: two each tick of 196 ms", kJunior, 197ms, 2},
         {"junior: nearly full before the time is up", kJunior, 9700ms, 98},
         {"senior: after 117.5 ms, a tie", 2, 117ms, 0},
+        {"senior: rounded up", 2, 118ms, 3},
         {"expert: three each tick of 73 ms", kExpert, 147ms, 6},
         {"expert: full after 34 ticks, and stays so", kExpert, 3600ms, 100},
+        {"master: three each tick of 43 ms", kMaster, 44ms, 3},
     };
     for (const auto& [what, level, pass, value] : cases) {
         GameWindow game;
@@ -37,26 +30,16 @@ TEST(TurnCycle, MovesTheTimeBarWithTheLevel) {
         game.Lock();
         game.time.Pass(pass);
         EXPECT_EQ(game.form->prbTime.Value(), value) << what;
+        game.RightClick(), game.RightClick();
+        EXPECT_EQ(game.form->prbTime.Value(), 0) << what;
+        game.time.Pass(pass);
+        EXPECT_EQ(game.form->prbTime.Value(), value) << what << ", after a pause";
     }
 }
 
-TEST(TurnCycle, AFullTimeBarMovesAgainAfterAPause) {
-    GameWindow game;
-    game.PlayKinds({0, 16, 32}, kExpert);
-    game.Lock();
-    game.time.Pass(3000ms);
-    EXPECT_EQ(game.form->prbTime.Value(), 100);
-    EXPECT_TRUE(game.form->Timer2.Enabled());
-    game.RightClick(), game.RightClick();
-    game.time.Pass(147ms);
-    EXPECT_EQ(game.form->prbTime.Value(), 6);
-}
-
-TEST(TurnCycle, PauseStopsTimeAndInputAndGivesTheWholeTimeAgain) {
+TEST(Game, PauseStopsTimeAndInputAndGivesTheWholeTimeAgain) {
     GameWindow game;
     game.PlayKinds({0, 16, 32, 5}, kMaster);
-    game.RightClick(), game.RightClick();
-    game.time.Pass(1h);  // the first card still has no limit
     game.Lock();
     game.time.Pass(2000ms);
     const auto before = game.time.Now();
@@ -64,20 +47,20 @@ TEST(TurnCycle, PauseStopsTimeAndInputAndGivesTheWholeTimeAgain) {
     EXPECT_EQ(game.time.Now() - before, 800ms);  // fifty a cell
     for (const int key : {32, 37, 38, 39, 40, 27}) game.Key(key);
     game.MoveTo(3);
-    game.form->picMat_MouseUp(3, 1, 0, 0, 0);
-    game.time.Pass(1h);
     EXPECT_EQ(game.Model().PosCurrentCard(), 12);
-    EXPECT_FALSE(game.ended);
-    EXPECT_EQ(game.form->prbTime.Value(), 0);
-    EXPECT_EQ(game.Cell(3).Picture(), game.Card(36));
-    game.RightClick();
-    game.time.Pass(2155ms);
-    EXPECT_EQ(game.Model().CardsInMatrix(), 1);
-    game.time.Pass(1ms);
-    EXPECT_EQ(game.Model().CardsInMatrix(), 2);
+    game.Key(80);
+    for (const auto& [pass, locked] : {std::pair(2155ms, 1), {1ms, 2}}) {
+        game.time.Pass(pass);
+        EXPECT_EQ(game.Model().CardsInMatrix(), locked);
+    }
+    game.form->imgButton_Click(1);
+    game.Key(27), game.Lock();
+    EXPECT_FALSE(game.ended) << "Escape means nothing on another screen";
+    game.Play(), game.Key(27);
+    EXPECT_TRUE(game.ended);
 }
 
-TEST(TurnCycle, MouseMovesOnceIntoACellAndLocksWhereTheCardIs) {
+TEST(Game, MouseMovesOnceIntoACellAndLocksWhereTheCardIs) {
     GameWindow game;
     game.PlayKinds({0, 16, 32});
     game.form->picMat_MouseMove(0, 0, 0, 0, 0);  // the pointer is taken to start in cell 0
@@ -90,30 +73,25 @@ TEST(TurnCycle, MouseMovesOnceIntoACellAndLocksWhereTheCardIs) {
     game.form->picMat_MouseMove(5, 0, 0, 0, 0);  // it rests there: no move
     game.form->picMat_MouseUp(100, 1, 0, 0, 0);  // any index locks the active card where it is
     EXPECT_EQ(game.Model().CardAt(12).Number, 16);
+    game.form->LockInCell(5);  // taken
+    game.form->LockInCell(6);
+    EXPECT_EQ(game.Model().CardAt(6).Number, 32);
 }
 
-TEST(TurnCycle, ShowsScoreAndCardsAfterEachLock) {
+TEST(Game, FrameAndShadeAreCombinedByAnd) {
     GameWindow game;
-    game.PlayKinds({0, 0, 0, 0, 16, 32}, kExpert);
-    for (const int cell : {0, 1, 2, 3}) game.LockAt(cell);
-    EXPECT_EQ(game.form->lblScore.Caption(), "4,000");    // 200 points, 4 cards, factor 5
-    EXPECT_EQ(game.form->lblCardsLeft.Caption(), "113");  // four used, seventeen given back
+    game.PlayKinds({0, 16, 32});
     game.LockAt(5);
-    EXPECT_EQ(game.form->lblSerieScore.Caption(), "4000");  // a lock without points leaves it
+    game.MoveTo(5);
+    const QImage shown = game.Cell(5).Contents().Render(1);
+    const QRgb shaded = game.Card(16).At(1).pixel(30, 30) & ToQColor(kButtonFace).rgb();
+    for (const QPoint inFrame : {QPoint(1, 30), QPoint(3, 3), QPoint(59, 30)})  // pixels 1..3 from each edge
+        EXPECT_EQ(shown.pixel(inFrame), shaded & 0xFFFF0000);
+    for (const QPoint beside : {QPoint(0, 30), QPoint(4, 4), QPoint(30, 30), QPoint(56, 56)})
+        EXPECT_EQ(shown.pixel(beside), shaded);
 }
 
-TEST(TurnCycle, KeysActOnlyOnTheBoardAndEscapeEndsAtOnce) {
-    GameWindow game;
-    game.Play();
-    game.form->imgButton_Click(1);
-    game.Key(27), game.Lock();
-    EXPECT_FALSE(game.ended || game.Model().CardsInMatrix() > 0);
-    game.Play();
-    game.Key(27);
-    EXPECT_TRUE(game.ended);
-}
-
-TEST(TurnCycle, MadeUpArgumentsDoNoHarm) {
+TEST(Game, MadeUpArgumentsDoNoHarm) {
     GameWindow game;
     game.PlayKinds({0, 16, 32});
     for (const std::int16_t index : std::initializer_list<std::int16_t>{-1, 16, 100, 32767, -32768}) {
@@ -129,20 +107,18 @@ TEST(TurnCycle, MadeUpArgumentsDoNoHarm) {
     EXPECT_TRUE(game.form->fraScreen[0].Visible());
 }
 
-TEST(TurnCycle, AMoveRepaintsTheTwoCellsAndNothingElse) {
+TEST(Game, AMoveRepaintsTheTwoCellsAndNothingElse) {
     GameWindow game;
     game.PlayKinds({0, 16});
     game.form->show();
     QCoreApplication::processEvents();
-    const auto place = [&](int cell) {
-        return QRect(game.Cell(cell).mapTo(game.form.get(), QPoint(0, 0)), game.Cell(cell).size());
-    };
     PaintWatch watch(*game.form);
     game.Key(kKeyRight);
     QCoreApplication::processEvents();
+    const auto place = [&](int cell) {
+        return QRect(game.Cell(cell).mapTo(game.form.get(), QPoint(0, 0)), game.Cell(cell).size());
+    };
     EXPECT_EQ(watch.painted, QRegion(place(12)) + place(13));
-    watch.painted = {};
-    game.MoveTo(3);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(watch.painted, QRegion(place(13)) + place(3));
 }
+
+}  // namespace

@@ -1,0 +1,158 @@
+// The window beside a game: how it opens and closes, its menu, help and information window.
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QTest>
+
+#include "screen/Look.h"
+#include "screen/frmInfo.h"
+#include "tests/support/Files.h"
+#include "tests/support/GameWindow.h"
+
+namespace {
+
+TEST(Window, LaysItsScreensOverTheBoard) {
+    GameWindow game;
+    frmGame& form = *game.form;
+    const auto place = [](const auto& c) { return std::array{c.Left(), c.Top(), c.Width(), c.Height()}; };
+    EXPECT_EQ(place(form.fraScreen[0]), (std::array{765, 915, 3945, 3945}));
+    EXPECT_EQ(place(form.fraScreen[3]), (std::array{780, 930, 3915, 3915}));
+    EXPECT_EQ(place(form.picPreview), (std::array{775, 4930, 960, 960}));
+    EXPECT_EQ(place(form.shpRect), (std::array{765, 915, 3925, 3890}));
+    EXPECT_EQ(place(form.picMat[6]), (std::array{1980, 990, 960, 960}));
+    EXPECT_EQ(form.size(), QSize(399, 411));
+    EXPECT_EQ(form.Shape1.Top(), form.lblClass[0].Top() + 135);
+    form.lblClass_MouseMove(3, 0, 0, 0, 0);
+    EXPECT_EQ(form.Shape1.Top(), form.lblClass[3].Top() + 67);
+    EXPECT_EQ(form.Shape1.Left(), form.lblClass[3].Left() - 210);
+}
+
+// Every control inside the shaped window lies wholly inside its holder, and no two hot spots overlap.
+TEST(Window, HoldsEveryControlInsideItsHolder) {
+    GameWindow game;
+    for (const QWidget* control : game.form->findChildren<QWidget*>()) {
+        if (control->objectName().isEmpty() || control->objectName().startsWith("qt_")) continue;
+        const QRect holder = control->parentWidget()->rect(), place = control->geometry();
+        const bool outOfSight = control->parentWidget() == game.form.get() && !holder.intersects(place);
+        EXPECT_TRUE(outOfSight || holder.contains(place)) << control->objectName().toStdString();
+    }
+    for (std::size_t i = 0; i < 4; ++i)
+        for (std::size_t j = i + 1; j < 4; ++j)
+            EXPECT_FALSE(game.form->imgButton[i].geometry().intersects(game.form->imgButton[j].geometry()));
+}
+
+TEST(Window, ClosingStopsTheGameAndReadsNoSkins) {
+    GameWindow game;
+    game.form->show();
+    game.form->grab();  // its first paint, after which the skins are read
+    game.form->close();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(game.form->picSkin[0].Contents().drawings.size(), 1);  // the frame of the chosen one
+    game.Open();
+    game.Play(4);
+    game.Lock();
+    game.form->close();
+    game.time.Pass(std::chrono::hours(1));
+    EXPECT_FALSE(game.form->Timer1.Enabled() || game.form->Timer2.Enabled());
+}
+
+TEST(Window, ShowsWhatIsPressedAndWhatTheMouseIsOver) {
+    GameWindow game;
+    frmGame& form = *game.form;
+    form.FinishSkinSlots();
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             &form.Image1, &form.imgMinimaize, &form.imgWebLink, &form.Label4, &form.Label14, &form.Label17,
+             &form.imgButton[0], &form.imgButton[4], &form.lblClass[4], &form.picSkin[0]}) {
+        SCOPED_TRACE(control->objectName().toStdString());
+        const QImage before = control->grab().toImage();
+        QTest::mousePress(control, Qt::LeftButton);
+        EXPECT_NE(control->grab().toImage(), before);
+    }
+    const auto bar = [&form] { return form.Image2.grab().toImage(); };
+    form.imgButton_MouseUp(0, 1, 0, 0, 0);
+    const QImage released = bar();
+    for (std::int16_t i = 0; i < 5; ++i) {
+        form.imgButton_MouseDown(i, 1, 0, 0, 0);
+        EXPECT_EQ(bar() == released, i == 4) << i;
+        form.imgButton_MouseUp(i, 1, 0, 0, 0);
+        EXPECT_EQ(bar(), released) << i;
+    }
+}
+
+TEST(Window, SaysWhyThereIsNothingToPlayWithAndGoesOn) {
+    GameWindow game;
+    game.PlayKinds({0, 16, 32});
+    QFile::remove(game.Art("test.png"));
+    game.Play();
+    game.Lock(), game.RightClick();
+    EXPECT_EQ(game.Model().CardsInMatrix(), 0);
+    game.Open();
+    game.form->imgButton_Click(0);
+    EXPECT_EQ(
+        game.dialogs.told.join('|').toStdString(),
+        "\"test.png\" is not there.|There is no skin to play with. A skin is a picture of 3 x 13 cards; "
+        "put one into " +
+            game.folder.path().toStdString() + "/Art.");
+    EXPECT_EQ(game.form->CurrentMenu, 2);
+    game.form->imgButton_Click(1);
+    EXPECT_TRUE(game.form->fraScreen[1].Visible());
+}
+
+TEST(Info, ShowsTheRulesReadAfreshEachTime) {
+    GameWindow game;
+    const auto shown = [&game] {
+        return frmInfo(game.form.get(), ProgramFolder(game.folder.path())).Text1.toPlainText();
+    };
+    EXPECT_EQ(shown(), "");
+    QDir(game.folder.path()).mkdir("Res");
+    const QString path = game.folder.filePath("Res/tesselor RULES.txt");
+    for (const auto& [bytes, text] : {std::pair<QByteArray, QString>{"one\ntwo\n", "one\ntwo\n"},
+                                      {"one\r\ntwo\r\n", "one\ntwo\n"},
+                                      {"r\xC3\xA8gles", QString::fromUtf8("r\xC3\xA8gles")}}) {
+        WriteFile(path, bytes);
+        EXPECT_EQ(shown(), text);
+    }
+    WriteFile(path, "manual");
+    QFile::resize(path, 1 << 30);
+    EXPECT_TRUE(shown().startsWith("manual"));
+    EXPECT_LT(shown().size(), 1'000'000) << "a file that is no manual is shown in part";
+    QFile::remove(path);
+    MakePipe(path);
+    EXPECT_EQ(shown(), "");
+}
+
+TEST(Info, LightsItsButtonAndIsClosedByItAndByEscape) {
+    GameWindow game;
+    game.form->show();
+    game.form->move(0, 0);
+    game.form->cmdHelp_Click();
+    const auto windows = [&game] { return game.form->findChildren<QWidget*>("frmInfo"); };
+    ASSERT_EQ(windows().size(), 1);
+    auto* info = static_cast<frmInfo*>(windows()[0]);
+    EXPECT_TRUE(game.form->screen()->availableGeometry().contains(info->geometry()));
+    game.form->imgButton_Click(4);
+    EXPECT_EQ(windows(), QList<QWidget*>{info}) << "the same again";
+    info->imgButton_MouseMove(0, 0, 0, 0);
+    EXPECT_EQ(info->lblCaption.ForeColor(), Look::kLitCaption);
+    info->Form_MouseMove(0, 0, 0, 0);
+    EXPECT_EQ(info->lblCaption.ForeColor(), kWhite);
+    QTest::mouseClick(&info->imgButton, Qt::LeftButton);
+    EXPECT_FALSE(info->isVisible());
+    game.form->imgButton_Click(4);
+    info = static_cast<frmInfo*>(windows()[0]);
+    QTest::keyClick(&info->Text1, Qt::Key_Escape);
+    EXPECT_FALSE(info->isVisible());
+}
+
+TEST(Links, OpenTheTwoAddressesOnly) {
+    GameWindow game;
+    for (const auto* link : std::initializer_list<const HasAccess*>{
+             &game.form->Label14, &game.form->Label4, &game.form->imgWebLink, &game.form->Label17})
+        link->access.press();
+    EXPECT_EQ(game.opened.join(' ').toStdString(),
+              "https://tesselor.example/ https://tesselor.example/ https://tesselor.example/ "
+              "https://tesselor.example/play");
+}
+
+}  // namespace
