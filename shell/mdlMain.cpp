@@ -9,10 +9,10 @@
 #include "platform/Access.h"
 #include "platform/Dialogs.h"
 #include "platform/PixelFile.h"
-#include "platform/RegistryHive.h"
 #include "platform/Shell.h"
 #include "platform/SoundFiles.h"
 #include "platform/SoundPlayer.h"
+#include "platform/StringStore.h"
 #include "platform/Time.h"
 #include "screen/Look.h"
 #include "screen/frmGame.h"
@@ -53,7 +53,7 @@ int mdlMain::Main() {
         frmIcon().exec();
         return EXIT_SUCCESS;
     }
-    RegistryHive hive(RegistryHive::UserFile());
+    StringStore hive(StringStore::UserFile());
     mdlRegistry::Hive(&hive);
     SoundPlayer player;
     SoundFiles soundFiles(player);

@@ -1,11 +1,11 @@
 #include "shell/mdlRegistry.h"
 
-#include "platform/RegistryHive.h"
+#include "platform/StringStore.h"
 
 namespace mdlRegistry {
 namespace {
 
-RegistryHive* theHive = nullptr;
+StringStore* theHive = nullptr;
 
 // Only the current user's root is kept; any other is refused without a word.
 bool IsKept(std::uint32_t root) {
@@ -14,7 +14,7 @@ bool IsKept(std::uint32_t root) {
 
 }  // namespace
 
-void Hive(RegistryHive* hive) {
+void Hive(StringStore* hive) {
     theHive = hive;
 }
 

@@ -3,7 +3,7 @@
 #include <QString>
 #include <cstdint>
 
-class RegistryHive;
+class StringStore;
 
 // The string store: text values of the current user, addressed by root, key path and value name.
 namespace mdlRegistry {
@@ -11,7 +11,7 @@ namespace mdlRegistry {
 inline constexpr std::uint32_t kCurrentUser = 0x80000001;  // HKEY_CURRENT_USER
 
 // The store behind both operations; null, as at first, for none. It must outlive its use here.
-void Hive(RegistryHive* hive);
+void Hive(StringStore* hive);
 
 // The text stored under `name` in the key `path` ("Software\Tesselor\Name"), up to its first zero character;
 // `defaultText` when the key or the value is missing, or the value is not a string.

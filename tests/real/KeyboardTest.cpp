@@ -2,9 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-
 #include "model/CardInfo.h"
+#include "platform/StringStore.h"
 #include "tests/real/Player.h"
 #include "tests/real/Strategy.h"
 
@@ -38,9 +37,9 @@ protected:
         PressAndSee("space");
         ASSERT_TRUE(player.AwaitTurn());
     }
-    QByteArray Store() const {
-        QFile file(player.Display().Environment().value("XDG_CONFIG_HOME") + "/Tesselor/registry.txt");
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    std::optional<QString> BestName() const {
+        const QString folder = player.Display().Environment().value("XDG_CONFIG_HOME");
+        return StringStore(folder + "/Tesselor/store.sqlite").String("Software\\Tesselor\\Name", "0");
     }
 
     Player player{1};
@@ -85,7 +84,7 @@ TEST_F(Keyboard, ASessionFromTheFirstKeyToTheLast) {
         ASSERT_NO_FATAL_FAILURE(LockIn(player.SawFlash() ? FirstFreeCell(board) : CheapCell(board, kind)));
     }
     for (const char* key : {"z", "o", "e", "Return"}) player.Window().Key(key);
-    ASSERT_TRUE(player.Window().Await([&] { return Store().contains("zoe"); }));
+    ASSERT_TRUE(player.Window().Await([&] { return BestName() == "zoe"; }));
     player.Photograph("keyboard-scores");
 
     Go("Tab", kMenu), Go("Up", kScore), Go("Up", kHelp), PressAndSee("Return");

@@ -162,7 +162,7 @@ TEST_F(Trouble, ThousandsOfClicksAtOnce) {
 TEST_F(Trouble, TheDisplayIsKilled) {
     Open();
     StartGame();
-    const QString store = player->Display().Environment().value("XDG_CONFIG_HOME") + "/Tesselor/registry.txt";
+    const QString store = player->Display().Environment().value("XDG_CONFIG_HOME") + "/Tesselor/store.sqlite";
     const auto bytes = [&] {
         QFile file(store);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

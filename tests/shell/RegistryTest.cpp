@@ -1,144 +1,199 @@
 #include <gtest/gtest.h>
 
+#include <sqlite3.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QElapsedTimer>
+#include <csignal>
+#include <random>
+
+#include "screen/HighScoreTable.h"
 #include "tests/support/Files.h"
 #include "tests/support/StoreFile.h"
 
 namespace {
 
-using namespace std::chrono_literals;
-
 constexpr std::uint32_t kUser = mdlRegistry::kCurrentUser, kMachine = 0x80000002;
 const QString kKey = QStringLiteral("Software\\Tesselor\\Score");
+const StoreFile::Value kBefore{kKey, "0", "before"};
 
-QString Read(const QString& path, const QString& name) {
-    return mdlRegistry::ReadRegString(kUser, path, name, QStringLiteral("default"));
+QString Read(const QString& name, std::uint32_t root = kUser, const QString& path = kKey) {
+    return mdlRegistry::ReadRegString(root, path, name, QStringLiteral("default"));
 }
 
-void Write(const QString& name, const QString& text) {
-    mdlRegistry::WriteRegString(kUser, kKey, name, text);
+void Write(const QString& name, const QString& text, std::uint32_t root = kUser) {
+    mdlRegistry::WriteRegString(root, kKey, name, text);
 }
 
-TEST(Registry, GivesTheStoredStringOrTheDefault) {
-    const StoreFile store(
-        "\xEF\xBB\xBF; kept by hand\r\n"
-        "[Software\\Tesselor\\Score]\r\n"
-        "\"0\"=\"12,345\"\r\n"
-        " \"spaced\" = \" a b \" \n"
-        "\"empty\"=\"\"\n"
-        "\"number\"=dword:0000002a\n"
-        "\"cut\"=\"before%0000after\"\n"
-        "\"a=b%0022\"=\"=\"\n"
-        "\"open\"=\"12\n"
-        "\"bad\"=\"100%12\"\n"
-        "\"quoted\"=\"a\"b\"\n"
-        "\"twice\"=\"first\"\n\"TWICE\"=\"last\"\n"
-        "[Software\\Half\n\"0\"=\"lost\"\n");
-    const std::tuple<const char*, QString, QString, QString> cases[] = {
-        {"a string", kKey, "0", "12,345"},
-        {"a path in another case", kKey.toUpper(), "0", "12,345"},
-        {"a name in another case", kKey, "EMPTY", ""},
-        {"blanks outside the quotes", kKey, "spaced", " a b "},
-        {"up to a zero character", kKey, "cut", "before"},
-        {"a name with signs in it", kKey, "a=b\"", "="},
-        {"twice: the last counts", kKey, "twice", "last"},
-        {"a number", kKey, "number", "default"},
-        {"never written", kKey, "1", "default"},
-        {"no such key", kKey + "s", "0", "default"},
-        {"a key above", "Software\\Tesselor", "0", "default"},
-        {"no closing quote", kKey, "open", "default"},
-        {"a half escape", kKey, "bad", "default"},
-        {"a bare quote", kKey, "quoted", "default"},
-        {"under a damaged key", "Software\\Half", "0", "default"},
-    };
-    for (const auto& [what, path, name, expected] : cases) EXPECT_EQ(Read(path, name), expected) << what;
-    EXPECT_EQ(mdlRegistry::ReadRegString(kMachine, kKey, "0", "default"), "default");
+// Stands for our table, and gives rows for ever.
+constexpr const char* kEndless =
+    "CREATE VIEW strings AS WITH r AS (SELECT '' path, '' name, '' value UNION ALL SELECT * FROM r) SELECT * "
+    "FROM r";
+
+// Another program at the database `file`, which it makes when it is missing.
+std::shared_ptr<sqlite3> Sql(const QString& file, const char* statements) {
+    sqlite3* database = nullptr;
+    sqlite3_open(QFile::encodeName(file).constData(), &database);
+    EXPECT_EQ(sqlite3_exec(database, statements, nullptr, nullptr, nullptr), SQLITE_OK);
+    return {database, sqlite3_close};
 }
 
-TEST(Registry, GivesBackWhatWasWrittenWhateverItHolds) {
-    const QStringList texts{"",
-                            " blanks ",
-                            "\"quoted\" \\ 100%",
-                            "[a]=b;c",
-                            "two\r\nlines\t",
-                            "Жанна 名前 🂡",
-                            QChar(0xD83D) + QString("half")};
-    for (const QString& text : texts) {
-        SCOPED_TRACE(text.toStdString());
-        const StoreFile store;
-        const QString path = "Software\\" + text + "]\\x";
-        mdlRegistry::WriteRegString(kUser, path, text, text);
-        mdlRegistry::WriteRegString(kMachine, path, text, QStringLiteral("refused"));
-        EXPECT_EQ(RegistryHive(store.path).String(path, text), text);  // as another process sees it
-    }
+TEST(Registry, GivesTheStoredTextOrTheDefault) {
+    const StoreFile store({{kKey, "0", "12,345"}, {kKey, "ünder", "b"}, {kKey.toLower(), "empty", ""}});
+    Write("Ünder", "a");
+    Write("cut", QStringLiteral("before\0after"));
+    Write("0", "refused", kMachine);
+    Sql(store.path, "INSERT INTO strings VALUES('software\\tesselor\\score', 'number', 42)");
+    const QString found = Read("0") + Read("ÜNDER") + Read("Empty") + Read("cut");
+    EXPECT_EQ(found, "12,345abefore");
+    const QString missing[] = {Read("1"), Read("number"), Read("0", kMachine), Read("0", kUser, kKey + "s")};
+    for (const QString& text : missing) EXPECT_EQ(text, "default");
+    Write("number", "text");
+    EXPECT_EQ(Read("number"), "text");
 }
 
-TEST(Registry, ReplacesAValueAndLeavesEveryOtherLineAlone) {
-    const StoreFile store("note\n\n[A]\n\"0\"=\"old\"\n\"n\"=dword:1\n\"1\"=\"dam\n\n[B]\n\"0\"=\"b\"");
-    mdlRegistry::WriteRegString(kUser, "a", "0", "new");
-    mdlRegistry::WriteRegString(kUser, "A", "N", "text");
-    mdlRegistry::WriteRegString(kUser, "A", "1", "%");
-    mdlRegistry::WriteRegString(kUser, "C\\D", "x", "");
-    EXPECT_EQ(store.Bytes(),
-              "note\n\n[A]\n\"0\"=\"new\"\n\"N\"=\"text\"\n\"1\"=\"dam\n\"1\"=\"%0025\"\n\n[B]\n\"0\"=\"b\"\n"
-              "\n[C\\D]\n\"x\"=\"\"\n");
-}
-
-TEST(Registry, IsForItsOwnerAlone) {
+TEST(Registry, KeepsAnyTextForItsOwnerAlone) {
     const mode_t before = umask(0);
-    for (const QByteArray& old : {QByteArray(), QByteArray("[A]\n")}) {
-        const StoreFile store(old);
-        EXPECT_EQ(QFile::exists(store.path), !old.isEmpty());  // and everybody's
-        Write("0", "text");
-        for (const QString& file : {store.path, store.path + ".lock"})
-            EXPECT_EQ(QFile::permissions(file) & QFile::Permissions(0x0FF), 0) << file.toStdString();
-    }
+    StoreFile store;
     umask(before);
+    for (const QStringView text :
+         {u"'; \" % [a]=b \r\n\t", u"Жанна 名前 🂡", u"\xD83D half", u"\xFEFF mark", u"\xFFFE mark"}) {
+        store.hive.SetString(text.toString(), text.toString(), text.toString());
+        EXPECT_EQ(StringStore(store.path).String(text.toString(), text.toString()), text);
+    }
+    const mdlRegistry::Step step;
+    Write("0", "text");
+    for (const char* file : {"", "-journal"})
+        EXPECT_EQ(QFile::permissions(store.path + file) & 0xFFF, 0x600) << file;
+}
+
+// What a name stands for: the entry itself, and what a small file holds.
+std::pair<ino_t, QByteArray> Entry(const QString& path) {
+    struct stat found {};
+    lstat(QFile::encodeName(path).constData(), &found);
+    return {found.st_ino, S_ISREG(found.st_mode) && found.st_size < 10'000 ? ReadFile(path) : QByteArray()};
 }
 
 TEST(Registry, SetsAsideWhatItCannotRead) {
-    const std::pair<const char*, std::function<void(const StoreFile&)>> wrecks[] = {
-        {"not UTF-8", [](const StoreFile& store) { store.Write("[A]\n\"0\"=\"\xE9\"\n"); }},
-        {"ends inside a character", [](const StoreFile& store) { store.Write("[A]\n\"0\"=\"\xC3"); }},
-        {"a gigabyte", [](const StoreFile& store) { store.Write("x"), QFile::resize(store.path, 1 << 30); }},
-        {"a folder", [](const StoreFile& store) { QDir().mkpath(store.path + "/inside"); }},
-        {"a pipe", [](const StoreFile& store) { MakePipe(store.path); }},
-        {"a link to a device", [](const StoreFile& store) { QFile::link("/dev/zero", store.path); }},
+    static const QByteArray whole = StoreFile({kBefore}).Bytes();
+    using Path = const QString&;
+    const std::pair<const char*, void (*)(Path)> wrecks[] = {
+        {"a text", [](Path path) { WriteFile(path, "[A]\n"); }},
+        {"damaged", [](Path path) { WriteFile(path, whole.first(4096) + QByteArray(4096, 'x')); }},
+        {"cut off", [](Path path) { WriteFile(path, whole.first(4096)); }},
+        {"gigabytes", [](Path path) { WriteFile(path, whole), QFile::resize(path, 1LL << 33); }},
+        {"another's", [](Path path) { Sql(path, "CREATE TABLE other(x)"); }},
+        {"never ends", [](Path path) { Sql(path, kEndless); }},
+        {"a folder, a journal", [](Path path) { QDir().mkpath(path), WriteFile(path + "-journal", "j"); }},
+        {"a pipe", [](Path path) { MakePipe(path); }},
+        {"a pipe as journal", [](Path path) { WriteFile(path, whole), MakePipe(path + "-journal"); }},
+        {"a link to a device", [](Path path) { QFile::link("/dev/zero", path); }},
+        {"a link to nothing", [](Path path) { QFile::link("/nowhere", path); }},
     };
     for (const auto& [what, wreck] : wrecks) {
         SCOPED_TRACE(what);
         const StoreFile store;
         for (const char* time : {"1", "2"}) {
             QFile::remove(store.path);
-            wreck(store);
-            const qint64 size = QFileInfo(store.path).size();
-            EXPECT_EQ(Read(kKey, "0"), "default");
+            wreck(store.path);
+            const auto before = Entry(store.path), journal = Entry(store.path + "-journal");
+            EXPECT_EQ(Read("0"), "default");
             Write("0", time);
-            EXPECT_EQ(Read(kKey, "0"), time);
-            EXPECT_EQ(QFileInfo(store.path + ".unreadable-" + time).size(), size);
+            EXPECT_EQ(Read("0"), time);
+            const QString aside = store.path + ".unreadable-" + time;
+            EXPECT_TRUE(Entry(aside) == before && Entry(aside + "-journal") == journal);
         }
-        EXPECT_FALSE(QFileInfo::exists(store.path + ".unreadable-3"));
+        EXPECT_FALSE(QFile::exists(store.path + ".unreadable-3"));
     }
 }
 
-TEST(Registry, RefusesATextItCouldNotReadAgain) {
-    const StoreFile store;
-    Write("0", "short");
-    Write("0", QString(1 << 20, 'x'));
-    EXPECT_EQ(Read(kKey, "0"), "short");
+TEST(Registry, AFailureLeavesTheStoreAsItWas) {
+    const StoreFile store({kBefore});
+    const auto limitFiles = [](rlim_t bytes) {
+        const rlimit limit{bytes, RLIM_INFINITY};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    };
+    signal(SIGXFSZ, SIG_IGN);
+    for (const bool diskIsFull : {true, false}) {
+        std::optional<mdlRegistry::Step> step(std::in_place);
+        Write("0", "after");
+        EXPECT_EQ(Read("0"), "after");
+        EXPECT_EQ(StringStore(store.path).String(kKey, "0"), "before");
+        if (diskIsFull) limitFiles(0);
+        if (!diskIsFull) Write("1", QString(1 << 20, 'x'));  // more than a store may hold
+        Write("2", "after");
+        step.reset();
+        limitFiles(RLIM_INFINITY);
+        EXPECT_EQ(Read("0") + Read("1") + Read("2"), "beforedefaultdefault");
+    }
+    Write("0", "after");
+    EXPECT_EQ(Read("0"), "after");
 }
 
-TEST(Registry, AStepReachesTheDiskAtItsEndAndKeepsOthersOut) {
-    const StoreFile store;
-    Write("0", "before");
-    {
+TEST(Registry, WaitsButOnceForAProcessThatHangs) {
+    const StoreFile store({kBefore});
+    for (const auto& [hangs, read] :
+         {std::pair("BEGIN IMMEDIATE", "before"), {"BEGIN EXCLUSIVE", "default"}}) {
+        const auto other = Sql(store.path, hangs);
         const mdlRegistry::Step step;
         Write("0", "after");
-        EXPECT_EQ(Read(kKey, "0"), "after");
-        EXPECT_EQ(RegistryHive(store.path).String(kKey, "0"), "before");
-        EXPECT_FALSE(FileLock(store.path + ".lock", 5ms).Held());
+        for (int time = 0; time < 1000; ++time) ASSERT_EQ(Read("0"), read);  // would each take seconds
+        Write("0", "after");
     }
-    EXPECT_EQ(RegistryHive(store.path).String(kKey, "0"), "after");
-    EXPECT_TRUE(FileLock(store.path + ".lock", 0ms).Held());
+    EXPECT_EQ(Read("0"), "before");
+    EXPECT_FALSE(QFile::exists(store.path + ".unreadable-1"));
+}
+
+// Enters the scores first, first + 10 and so on in a process of its own.
+pid_t Play(int first, int last = INT_MAX - 10) {
+    if (const pid_t child = fork(); child != 0) return child;
+    for (int score = first; score <= last; score += 10) {
+        const QString text = QString::number(score);
+        EnterHighScore({text, text, text});
+    }
+    _exit(0);
+}
+
+// The scores of the table, in which every row is whole.
+std::vector<int> Scores() {
+    std::vector<int> scores;
+    for (int row = 0; row < kHighScores; ++row) {
+        const HighScore kept = StoredHighScore(row);
+        EXPECT_TRUE(kept.name == kept.score && kept.date == kept.score) << "row " << row << " is torn";
+        scores.push_back(kept.score.toInt());
+    }
+    return scores;
+}
+
+TEST(Registry, TwoGamesThatEndAtOnceBothFindTheirRows) {
+    const StoreFile store;
+    for (const pid_t game : {Play(11, 2010), Play(12, 2010)}) EXPECT_EQ(waitpid(game, nullptr, 0), game);
+    EXPECT_EQ(Scores(), (std::vector{2002, 2001, 1992, 1991}));
+}
+
+TEST(Registry, AKilledGameTearsNothing) {
+    const StoreFile store;
+    QElapsedTimer entries;
+    entries.start();
+    waitpid(Play(10, 40), nullptr, 0);
+    std::mt19937 chance(1);
+    const auto longest =
+        std::mt19937::result_type(entries.nsecsElapsed() / 2000);  // two entries, in microseconds
+    int best = 40;
+    for (int time = 0; time < 200; ++time) {
+        const pid_t game = Play(best + 10);
+        usleep(unsigned(chance() % longest));
+        kill(game, SIGKILL);
+        waitpid(game, nullptr, 0);
+        const std::vector<int> scores = Scores();
+        EXPECT_GE(scores[0], best);
+        best = scores[0];
+        ASSERT_EQ(scores, (std::vector{best, best - 10, best - 20, best - 30}));
+    }
+    EXPECT_GT(best, 40);
+    EXPECT_FALSE(QFile::exists(store.path + ".unreadable-1"));
 }
 
 }  // namespace

@@ -62,7 +62,7 @@ public:
     [[nodiscard]] bool BoardShown() const { return form->fraScreen[0].Visible(); }
 
     QTemporaryDir outside;  // where the player keeps pictures
-    RegistryHive failingStore{QStringLiteral("/dev/null/store.txt")};
+    StringStore failingStore{QStringLiteral("/dev/null/store.txt")};
     QWidget otherWindow;
     bool inDemo = false, passing = false;  // the event was nothing but time
     int confirmed = 0;                     // questions answered with yes since the latest event

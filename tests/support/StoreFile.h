@@ -3,24 +3,28 @@
 #include <QDir>
 #include <QTemporaryDir>
 
-#include "platform/RegistryHive.h"
+#include "platform/StringStore.h"
 #include "shell/mdlRegistry.h"
 #include "tests/support/Files.h"
 
 // A string store in a folder of its own, in force while it lives.
 class StoreFile {
 public:
-    explicit StoreFile(const QByteArray& bytes = {}) {
-        if (!bytes.isEmpty()) Write(bytes);
+    struct Value {
+        QString path, name, text;
+    };
+    explicit StoreFile(const QList<Value>& values = {}) {
+        if (!values.isEmpty()) hive.Begin();
+        for (const auto& [key, name, text] : values) hive.SetString(key, name, text);
+        hive.End();
         mdlRegistry::Hive(&hive);
     }
     ~StoreFile() { mdlRegistry::Hive(nullptr); }
 
+    // The database itself: it changes with every change of the store, and with nothing else.
     [[nodiscard]] QByteArray Bytes() const { return ReadFile(path); }
-    void Write(const QByteArray& bytes) const { WriteFile(path, bytes); }
 
     QTemporaryDir folder;
-    QString path = folder.filePath(QStringLiteral("store.txt"));
-    QString firstAside = path + ".unreadable-1";
-    RegistryHive hive{path};
+    QString path = folder.filePath(QStringLiteral("store.sqlite"));
+    StringStore hive{path};
 };

@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <memory>
 
-#include "platform/RegistryHive.h"
+#include "platform/StringStore.h"
 #include "tools/display/RealWindow.h"
 #include "tools/display/Spots.h"
 #include "tools/display/VirtualDisplay.h"
@@ -79,7 +79,7 @@ private:
 // The scores of four players, where the games on `display` look for them.
 void WriteScores(const VirtualDisplay& display) {
     qputenv("XDG_CONFIG_HOME", display.Environment().value("XDG_CONFIG_HOME").toUtf8());
-    RegistryHive hive(RegistryHive::UserFile());
+    StringStore hive(StringStore::UserFile());
     const QStringList rows[] = {{"Ada", "11/24/2026", "1,013,290"},
                                 {"Maximiliane", "12/31/2025", "48,200"},
                                 {"Wu", "3/8/2026", "9,450"},
