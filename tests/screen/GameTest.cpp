@@ -2,10 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
-
 #include "tests/support/GameWindow.h"
-#include "tests/support/PaintWatch.h"
 
 using namespace std::chrono_literals;
 
@@ -62,20 +59,20 @@ TEST(Game, PauseStopsTimeAndInputAndGivesTheWholeTimeAgain) {
 
 TEST(Game, MouseMovesOnceIntoACellAndLocksWhereTheCardIs) {
     GameWindow game;
+    frmGame& form = *game.form;
     game.PlayKinds({0, 16, 32});
-    game.form->picMat_MouseMove(0, 0, 0, 0, 0);  // the pointer is taken to start in cell 0
+    form.picMat_MouseMove(0, 0, 0, 0, 0);  // the pointer is taken to start in cell 0
     EXPECT_EQ(game.Model().PosCurrentCard(), 12);
-    game.form->picMat_MouseMove(5, 0, 0, 0, 0);
-    game.form->picMat_MouseUp(5, 2, 0, 0, 0);
+    form.picMat_MouseMove(5, 0, 0, 0, 0);
+    form.picMat_MouseUp(5, 2, 0, 0, 0);
     EXPECT_EQ(game.Model().CardsInMatrix(), 0);
-    game.form->picMat_MouseUp(5, 1, 0, 0, 0);
-    EXPECT_EQ(game.Model().CardAt(5).Number, 0);
-    game.form->picMat_MouseMove(5, 0, 0, 0, 0);  // it rests there: no move
-    game.form->picMat_MouseUp(100, 1, 0, 0, 0);  // any index locks the active card where it is
-    EXPECT_EQ(game.Model().CardAt(12).Number, 16);
-    game.form->LockInCell(5);  // taken
-    game.form->LockInCell(6);
-    EXPECT_EQ(game.Model().CardAt(6).Number, 32);
+    form.picMat_MouseUp(5, 1, 0, 0, 0);
+    form.picMat_MouseMove(5, 0, 0, 0, 0);  // it rests there: no move
+    form.picMat_MouseUp(100, 1, 0, 0, 0);  // any index locks the active card where it is
+    form.LockInCell(5);                    // taken
+    form.LockInCell(6);
+    for (const auto& [cell, kind] : {std::pair(5, 0), {12, 16}, {6, 32}})
+        EXPECT_EQ(game.Model().CardAt(static_cast<std::int16_t>(cell)).Number, kind);
 }
 
 TEST(Game, FrameAndShadeAreCombinedByAnd) {
@@ -105,20 +102,6 @@ TEST(Game, MadeUpArgumentsDoNoHarm) {
     }
     EXPECT_EQ(game.Model().PosCurrentCard(), 12);
     EXPECT_TRUE(game.form->fraScreen[0].Visible());
-}
-
-TEST(Game, AMoveRepaintsTheTwoCellsAndNothingElse) {
-    GameWindow game;
-    game.PlayKinds({0, 16});
-    game.form->show();
-    QCoreApplication::processEvents();
-    PaintWatch watch(*game.form);
-    game.Key(kKeyRight);
-    QCoreApplication::processEvents();
-    const auto place = [&](int cell) {
-        return QRect(game.Cell(cell).mapTo(game.form.get(), QPoint(0, 0)), game.Cell(cell).size());
-    };
-    EXPECT_EQ(watch.painted, QRegion(place(12)) + place(13));
 }
 
 }  // namespace

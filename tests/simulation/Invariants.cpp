@@ -1,7 +1,9 @@
-// What is always true between two events, read off the window and the model and put beside each other.
+// What holds between two events, read off the window and the model and put beside each other.
 
+#include <QApplication>
 #include <QLocale>
 #include <algorithm>
+#include <numeric>
 
 #include "model/Levels.h"
 #include "screen/Look.h"
@@ -12,32 +14,6 @@ namespace {
 
 using Play = frmGame::Play;
 
-std::string If(bool broken, const std::string& what) {
-    return broken ? what : std::string();
-}
-
-std::string Not(const QString& shown, const QString& due) {
-    return If(shown != due, shown.toStdString() + " instead of " + due.toStdString());
-}
-
-std::string OneScreen(const Simulation& w) {
-    const auto& screens = w.form->fraScreen;
-    const auto shown =
-        std::count_if(screens.begin(), screens.end(), [](const Frame& f) { return f.Visible(); });
-    if (w.form->lblNextCard.Visible() != screens[2].Visible()) return "next card";
-    return If(shown != 1, std::to_string(shown) + " screens");
-}
-
-std::string InputLock(const Simulation& w) {
-    return If(!w.inDemo && w.Model().RndAction() == (w.form->play == Play::On), "locked in play, or open");
-}
-
-std::string CardsOnBoard(const Simulation& w) {
-    int locked = 0;
-    for (std::int16_t cell = 0; cell < kCells; ++cell) locked += w.Model().CardAt(cell).Quantity != kNoCard;
-    return If(locked != w.Model().CardsInMatrix(), std::to_string(locked) + " cards counted otherwise");
-}
-
 bool Occupied(const Simulation& w, std::int16_t cell) {
     return w.Model().CardAt(cell).Quantity != kNoCard;
 }
@@ -46,201 +22,147 @@ Picture LockedIn(const Simulation& w, std::int16_t cell) {
     return Occupied(w, cell) ? w.Card(w.Model().CardAt(cell).Number) : Picture();
 }
 
-std::string Card(int kind) {
+QString Words(int kind) {
     if (kind > kLastOrdinaryKind) return "eraser";
-    return "shape " + std::to_string(kind / 12 + 1) + ", colour " + std::to_string(kind % 3 + 1) +
-           ", quantity " + std::to_string(kind / 3 % 4 + 1);
+    const QString text = "shape %1, colour %2, quantity %3";
+    return text.arg(kind / 12 + 1).arg(kind % 3 + 1).arg(kind / 3 % 4 + 1);
 }
 
-std::string Words(const Simulation& w, std::int16_t cell) {
-    if (w.form->play == Play::Paused) return "covered";
-    const std::string locked = Occupied(w, cell) ? Card(w.Model().CardAt(cell).Number) : "empty";
-    if (cell != w.Model().PosCurrentCard()) return locked;
-    return Card(w.Model().CurrentCard()) + ", active card" +
-           (Occupied(w, cell) ? ", shaded, over " + locked : "");
-}
-
-// Covered in a pause; otherwise each cell its locked card, and the active card over that of its cell. The
-// words for those who do not see it say the same.
-std::string Board(const Simulation& w) {
-    if (!w.PlayersGame() || w.stepLeftOver) return {};
-    const bool paused = w.form->play == Play::Paused;
-    for (std::int16_t cell = 0; cell < kCells; ++cell) {
-        const bool active = !paused && cell == w.Model().PosCurrentCard();
-        const Picture due = paused   ? w.Card(kCoverKind)
-                            : active ? w.Card(w.Model().CurrentCard())
-                                     : LockedIn(w, cell);
-        const std::size_t drawings = !active ? 0 : Occupied(w, cell) ? 2 : 1;
-        const PictureContents& shown = w.Cell(cell).Contents();
-        const std::string words = "Row " + std::to_string(cell / 4 + 1) + ", column " +
-                                  std::to_string(cell % 4 + 1) + ": " + Words(w, cell);
-        if (shown.picture != due || shown.drawings.size() != drawings) return "not " + words;
-        if (w.BoardShown() && w.Cell(cell).access.name().toStdString() != words) return "not said: " + words;
-    }
-    return {};
-}
-
-// What covers the board at the end stays until the next game.
-std::string End(const Simulation& w) {
-    const bool ended = w.before.play == Play::On && w.form->play == Play::Off && w.BoardShown() &&
-                       w.random.games == w.before.games && w.dialogs.told.isEmpty() && !w.inDemo &&
-                       !w.stepLeftOver;
-    const auto covered = [&w](const PictureBox& box) { return box.Picture() == w.Card(kCoverKind); };
-    return If(ended && !(std::ranges::all_of(w.form->picMat, covered) && covered(w.form->picPreview)),
-              "shows a card");
-}
-
-std::string KeptAside(const Simulation& w) {
-    const bool right = w.form->picTemp.Picture() == LockedIn(w, w.Model().PosCurrentCard());
-    return If(w.PlayersGame() && !w.stepLeftOver && !right, "not what lies under the active card");
-}
-
-std::string Preview(const Simulation& w) {
-    const bool next = w.BoardShown() && w.PlayersGame();
-    if (w.stepLeftOver || (w.BoardShown() && !next)) return {};
-    const Picture due = next ? w.Card(w.Model().NextCard()) : Picture();
-    return If(w.form->picPreview.Picture() != due, next ? "not the next card" : "a card beside the screen");
-}
-
-std::string Score(const Simulation& w) {
-    const bool same = w.random.games == w.before.games && w.random.games > 0;
-    if (same && w.Model().Score() < w.before.score) return "has fallen";
-    return Not(w.form->lblScore.Caption(), QLocale().toString(w.Model().Score()));
-}
-
-// A lock that scores nothing leaves the points of the latest one that did; a new game none.
-std::string PointsOfTheLock(const Simulation& w) {
-    const std::int32_t points = w.Model().SerieScore();
-    const bool stays = points == 0 && w.random.turns > 0;
-    return stays ? std::string() : Not(w.form->lblSerieScore.Caption(), QString::number(points));
-}
-
-std::string CardsLeft(const Simulation& w) {
-    if (w.random.games == 0) return {};
-    return Not(w.form->lblCardsLeft.Caption(), QString::number(w.Model().CardSum() - w.Model().CardsUsed()));
-}
-
-// No limit for the first card, on other screens, in pauses and after the end.
-std::string Timers(const Simulation& w) {
-    if (w.inDemo || (w.BoardShown() && w.form->play == Play::On && !w.PlayersGame())) return {};
-    const bool due = w.BoardShown() && w.form->play == Play::On && w.random.turns > 0;
-    if (w.form->Timer1.Enabled() != due || w.form->Timer2.Enabled() != due) return due ? "stand" : "run";
-    const int limit = LockTime(w.Model().SetLevel(), w.Model().CardsInMatrix());
-    if (due && w.form->Timer1.Interval() != limit) return "have the limit of another board";
-    const bool still = !due && w.PlayersGame() && w.BoardShown();  // help and a failed "play" leave the bar
-    return If(still && w.form->prbTime.Value() != 0, "stand with time on the bar");
+// Covered in a pause; otherwise its locked card, and the active card over that of its cell. The words for
+// those who do not see it say the same.
+bool CellIsRight(const Simulation& w, std::int16_t cell) {
+    const bool paused = w.form->play == Play::Paused, occupied = Occupied(w, cell);
+    const bool active = !paused && cell == w.Model().PosCurrentCard();
+    const QString locked = occupied ? Words(w.Model().CardAt(cell).Number) : "empty";
+    const QString words = paused   ? "covered"
+                          : active ? Words(w.Model().CurrentCard()) + ", active card" +
+                                         (occupied ? ", shaded, over " + locked : "")
+                                   : locked;
+    const Picture due = paused   ? w.Card(kCoverKind)
+                        : active ? w.Card(w.Model().CurrentCard())
+                                 : LockedIn(w, cell);
+    const PictureContents& shown = w.Cell(cell).Contents();
+    return shown.picture == due &&
+           shown.drawings.size() == (!active    ? 0u
+                                     : occupied ? 2u
+                                                : 1u) &&
+           w.Cell(cell).access.name() ==
+               QString("Row %1, column %2: ").arg(cell / 4 + 1).arg(cell % 4 + 1) + words;
 }
 
 // Time alone locks where there is a limit, and at the latest when it has passed.
-std::string LockByTime(const Simulation& w) {
-    if (!w.passing || w.inDemo) return {};
+bool TimeLocksInTime(const Simulation& w) {
     const bool limited = w.before.timeCounts && w.before.interval > 0;
     const bool over = w.time.Now() - w.before.now >= std::chrono::milliseconds(w.before.interval);
     const bool locked = w.random.turns != w.before.turns || w.form->play != w.before.play;
-    return If(locked ? !limited : limited && over, locked ? "without a limit" : "none when time was up");
+    return locked ? limited : !limited || !over;
 }
 
 // The high scores put the light out; it comes back with another button.
-std::string LitCaption(const Simulation& w) {
+bool CaptionIsLit(const Simulation& w) {
     std::vector<int> lit;
     for (int i = 0; i < 5; ++i)
         if (w.form->lblCaption[std::size_t(i)].ForeColor() == Look::kLitCaption) lit.push_back(i);
     const int menu = w.form->CurrentMenu;
-    if (lit.empty()) return If(!w.form->fraScreen[3].Visible() && menu != w.before.unlitMenu, "none");
-    if (lit != std::vector{menu} || w.form->fraScreen[3].Visible()) return "not the button pressed last";
-    const bool right = w.BoardShown() ? menu == 0 || w.form->play == Play::Off
-                                      : (menu == 4 ? 2 : menu) == (w.form->fraScreen[1].Visible() ? 1 : 2);
-    return If(!right, "of another screen");
+    const bool scores = w.form->fraScreen[3].Visible();
+    if (lit.empty()) return scores || menu == w.before.unlitMenu;
+    if (lit != std::vector{menu} || scores) return false;
+    return w.BoardShown() ? menu == 0 || w.form->play == Play::Off
+                          : (menu == 4 ? 2 : menu) == (w.form->fraScreen[1].Visible() ? 1 : 2);
 }
 
-std::string NameEntry(const Simulation& w) {
-    const bool asks = w.form->picEnterName.Visible();
-    for (const Image& button : w.form->imgButton)
-        if (button.Enabled() == asks) return asks ? "with an open menu" : "gone, and the menu closed";
-    return If(asks && (w.form->play != Play::Off || !w.BoardShown()), "in a game");
-}
-
-std::string Level(const Simulation& w) {
-    const int level = w.form->CurrentLevel;
-    for (int i = 0; i < kLevels; ++i)
-        if ((w.form->lblClass[std::size_t(i)].ForeColor() == kRed) != (i == level)) return "red at another";
-    const Label& label = w.form->lblClass[std::size_t(level)];
-    if (!w.form->shpLevel.geometry().contains(label.geometry().center())) return "marked at another";
-    const QString name = label.Caption();
-    if (w.form->prbTime.Visible() != (level > 0)) return "and its bar differ";
-    return If(w.Model().SetLevel() != level || w.form->lblLevelName.Caption() != name, "told differently");
-}
-
-std::string Skins(const Simulation& w) {
-    const auto current = std::size_t(w.form->CurrentSkin);
-    if (w.form->CurrentSkin > std::max<int>(0, w.form->SkinCount - 1)) return "an empty slot is chosen";
-    return Not(QString::fromStdString(w.Model().SetSkinPicture()), w.form->skinFile[current]);
-}
-
-std::string Focus(const Simulation& w) {
-    const QWidget* focus = w.form->focusWidget();
-    const bool right = !focus || w.form->isMinimized() || (focus->isVisible() && focus->isEnabled());
-    return If(!right, focus ? focus->objectName().toStdString() : "");
-}
-
-// No entry gets lost but the last, and that to a better one.
-std::string HighScores(const Simulation& w) {
-    if (w.Bytes() == w.before.store) return {};
+// In order, and no entry gets lost but the last, and that to a better one.
+bool HighScoresAreKept(const Simulation& w) {
+    if (w.Bytes() == w.before.store) return true;
     std::vector<HighScore> table = StoredTable(w), old = w.before.table;
     const auto points = [](const HighScore& entry) { return ScoreFromText(entry.score); };
     const auto same = [](const HighScore& a, const HighScore& b) {
         return a.name == b.name && a.date == b.date && a.score == b.score;
     };
-    if (!std::is_sorted(table.begin(), table.end(),
-                        [&](const HighScore& a, const HighScore& b) { return points(a) > points(b); }))
-        return "out of order";
-    const auto entered = std::mismatch(table.begin(), table.end(), old.begin(), same).first;
-    if (entered == table.end()) return {};
-    if (points(*entered) <= points(old.back())) return "a better one lost";
+    const auto entered = std::ranges::mismatch(table, old, same).in1;
+    if (!std::ranges::is_sorted(table, std::ranges::greater(), points)) return false;
+    if (entered == table.end()) return true;
+    const bool better = points(*entered) > points(old.back());
     table.erase(entered);
     old.pop_back();
-    return If(!std::equal(table.begin(), table.end(), old.begin(), same), "an entry lost");
-}
-
-std::string SkinFiles(const Simulation& w) {
-    int lost = 0;
-    for (const QString& file : w.before.files) lost += QFile::exists(w.Art(file)) ? 0 : 1;
-    return If(lost > w.confirmed, "lost without a yes");
-}
-
-// A thumbnail, a card's shade and its frame, or a frame in either colour.
-std::string Drawings(const Simulation& w) {
-    const auto many = [](const PictureBox& box) { return box.Contents().drawings.size() > 2; };
-    const auto anyOf = [many](const auto& boxes) { return std::any_of(boxes.begin(), boxes.end(), many); };
-    return If(anyOf(w.form->picMat) || anyOf(w.form->picSkin) || many(w.form->picCurrSkin), "pile up");
+    return better && std::ranges::equal(table, old, same);
 }
 
 }  // namespace
 
-std::string Broken(const Simulation& world) {
-    constexpr std::pair<const char*, std::string (*)(const Simulation&)> invariants[] = {
-        {"screens", OneScreen},
-        {"input lock", InputLock},
-        {"cards", CardsOnBoard},
-        {"board", Board},
-        {"end", End},
-        {"kept aside", KeptAside},
-        {"preview", Preview},
-        {"score", Score},
-        {"points of the lock", PointsOfTheLock},
-        {"cards left", CardsLeft},
-        {"timers", Timers},
-        {"lock by time", LockByTime},
-        {"lit caption", LitCaption},
-        {"name entry", NameEntry},
-        {"level", Level},
-        {"skins", Skins},
-        {"keyboard", Focus},
-        {"high scores", HighScores},
-        {"skin files", SkinFiles},
-        {"drawings", Drawings},
+std::string Broken(const Simulation& w) {
+    const frmGame& form = *w.form;
+    const clsCard& game = w.Model();
+    const bool on = form.play == Play::On, shown = w.BoardShown(), own = w.PlayersGame();
+    const bool whole = own && !w.stepLeftOver, sameGame = w.random.games == w.before.games;
+    const bool ended = w.before.play == Play::On && form.play == Play::Off && shown && sameGame &&
+                       w.dialogs.told.isEmpty() && !w.inDemo && !w.stepLeftOver;
+    const bool timersKnown = !w.inDemo && !(shown && on && !own), due = shown && on && w.random.turns > 0;
+    const auto level = std::size_t(form.CurrentLevel);
+    const bool asks = form.picEnterName.Visible();
+    const QWidget* focus = form.focusWidget();
+    std::array<std::int16_t, kCells> cells{};
+    std::iota(cells.begin(), cells.end(), std::int16_t{0});
+    const auto visible = [](const Frame& screen) { return screen.Visible(); };
+    const auto covered = [&w](const PictureBox& box) { return box.Picture() == w.Card(kCoverKind); };
+    const auto piled = [](const PictureBox& box) { return box.Contents().drawings.size() > 2; };
+    const auto lost = [&w](const QString& file) { return !QFile::exists(w.Art(file)); };
+    const std::pair<const char*, bool> facts[] = {
+        {"one screen is shown", std::ranges::count_if(form.fraScreen, visible) == 1},
+        {"\"next card\" is on the help screen", form.lblNextCard.Visible() == form.fraScreen[2].Visible()},
+        {"only a game takes input", w.inDemo || game.RndAction() != on},
+        {"all cards are counted",
+         std::ranges::count_if(cells, [&](auto cell) { return Occupied(w, cell); }) == game.CardsInMatrix()},
+        {"the board is shown",
+         !whole || std::ranges::all_of(cells, [&](auto c) { return CellIsRight(w, c); })},
+        {"the end covers it",
+         !ended || (std::ranges::all_of(form.picMat, covered) && covered(form.picPreview))},
+        {"what lies under the card is kept",
+         !whole || form.picTemp.Picture() == LockedIn(w, game.PosCurrentCard())},
+        {"the next card is shown in a game",
+         w.stepLeftOver || (shown && !own) ||
+             form.picPreview.Picture() == (shown ? w.Card(game.NextCard()) : Picture())},
+        {"the score is shown", form.lblScore.Caption() == QLocale().toString(game.Score())},
+        {"the score never falls", !sameGame || w.random.games == 0 || game.Score() >= w.before.score},
+        {"the points of the latest lock that scored are shown",
+         (game.SerieScore() == 0 && w.random.turns > 0) ||
+             form.lblSerieScore.Caption() == QString::number(game.SerieScore())},
+        {"the cards left are shown",
+         w.random.games == 0 ||
+             form.lblCardsLeft.Caption() == QString::number(game.CardSum() - game.CardsUsed())},
+        {"the timers run after the first card of a game that goes on",
+         !timersKnown || (form.Timer1.Enabled() == due && form.Timer2.Enabled() == due)},
+        {"the limit is that of the board",
+         !timersKnown || !due || form.Timer1.Interval() == LockTime(game.SetLevel(), game.CardsInMatrix())},
+        {"the bar is empty while they stand",
+         !timersKnown || due || !own || !shown || form.prbTime.Value() == 0},
+        {"time locks in time", !w.passing || w.inDemo || TimeLocksInTime(w)},
+        {"the caption of the screen is lit", CaptionIsLit(w)},
+        {"the menu is closed while a name is asked for",
+         std::ranges::all_of(form.imgButton, [&](const Image& button) { return button.Enabled() != asks; })},
+        {"a name is asked for after a game", !asks || (form.play == Play::Off && shown)},
+        {"the level chosen is red", std::ranges::all_of(form.lblClass,
+                                                        [&](const Label& label) {
+                                                            return (label.ForeColor() == kRed) ==
+                                                                   (&label == &form.lblClass[level]);
+                                                        })},
+        {"the level chosen is marked",
+         form.shpLevel.geometry().contains(form.lblClass[level].geometry().center())},
+        {"the level has its name", form.lblLevelName.Caption() == form.lblClass[level].Caption()},
+        {"the model has the level", game.SetLevel() == form.CurrentLevel},
+        {"a limit has a bar", form.prbTime.Visible() == (level > 0) && form.shpTime.Visible() == (level > 0)},
+        {"a full slot is chosen", form.CurrentSkin <= std::max<int>(0, form.SkinCount - 1)},
+        {"the model has the skin",
+         QString::fromStdString(game.SetSkinPicture()) == form.skinFile[std::size_t(form.CurrentSkin)]},
+        {"what has the keyboard can take it",
+         !focus || form.isMinimized() || (focus->isVisible() && focus->isEnabled())},
+        {"high scores are kept", HighScoresAreKept(w)},
+        {"no skin is lost without a yes", std::ranges::count_if(w.before.files, lost) <= w.confirmed},
+        {"drawings do not pile up", std::ranges::none_of(form.picMat, piled) &&
+                                        std::ranges::none_of(form.picSkin, piled) &&
+                                        !piled(form.picCurrSkin)},
     };
-    for (const auto& [name, broken] : invariants)
-        if (const std::string what = broken(world); !what.empty()) return name + (": " + what);
+    for (const auto& [fact, holds] : facts)
+        if (!holds) return fact;
     return {};
 }
