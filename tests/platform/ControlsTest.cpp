@@ -15,6 +15,7 @@
 #include "platform/KeyboardFocus.h"
 #include "platform/Label.h"
 #include "platform/PictureBox.h"
+#include "platform/Time.h"
 
 namespace {
 
@@ -207,6 +208,18 @@ TEST(Dialogs, SayPlainTextAndGiveTheAnswer) {
         });
         EXPECT_EQ(MessageBoxes().Ask(nullptr, "<b>?"), button == QMessageBox::Yes);
     }
+}
+
+TEST(RealTime, RingsUntilItIsStopped) {
+    RealTime time;
+    int rings = 0;
+    const auto alarm = time.NewAlarm([&rings] { ++rings; });
+    alarm->Start(std::chrono::milliseconds(1));
+    while (rings < 2) time.ProcessEvents();
+    alarm->Stop();
+    time.Wait(std::chrono::milliseconds(3));
+    time.ProcessEvents();
+    EXPECT_EQ(rings, 2);
 }
 
 }  // namespace
