@@ -109,6 +109,8 @@ TEST_F(Skins, ThatAreNoneTakeNoSlotAndAreRefused) {
     EXPECT_EQ(game.form->skinFile[0], "half.jpg");  // listed by its head
     game.form->FinishSkinSlots();
     EXPECT_EQ(game.form->skinFile[0] + game.form->skinFile[2] + game.form->skinFile[3], "test.pngv.png");
+    EXPECT_EQ(game.form->picSkin[2].focusPolicy(), Qt::TabFocus);
+    EXPECT_EQ(game.form->picSkin[3].focusPolicy(), Qt::NoFocus);
     EXPECT_EQ(game.Model().SetSkinPicture(), "test.png");
     for (const char letter : QByteArray("BaCdegijklm")) WriteSkin(InArt(QString("%1.png").arg(letter)));
     game.Open();  // the first twelve by name, some of them damaged
