@@ -128,7 +128,7 @@ TEST(WaveData, ReadsPlainSoundsAndRefusesEverythingElse) {
             usually("RIFF", "RIFX") + Number<quint32>(usually(size, pick({0, 3}))) + body;
         const auto read = WaveData::Read(whole + more);
         ASSERT_EQ(read.has_value(), good) << whole.toHex().toStdString();
-        EXPECT_FALSE(WaveData::Read(whole.left(random() % whole.size())));
+        EXPECT_FALSE(WaveData::Read(whole.left(qsizetype(random()) % whole.size())));
         if (!read) continue;
         ASSERT_EQ(std::tuple(read->rate, read->channels, read->bits), std::tuple(rate, channels, bits));
         ASSERT_EQ(read->samples, samples);
