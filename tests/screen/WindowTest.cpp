@@ -57,26 +57,22 @@ TEST(Window, ClosingStopsTheGameAndReadsNoSkins) {
     EXPECT_FALSE(game.form->Timer1.Enabled() || game.form->Timer2.Enabled());
 }
 
-TEST(Window, ShowsWhatIsPressedAndWhatTheMouseIsOver) {
+TEST(Window, ShowsWhatIsPressed) {
     GameWindow game;
     frmGame& form = *game.form;
     form.FinishSkinSlots();
-    for (QWidget* control : std::initializer_list<QWidget*>{
-             &form.Image1, &form.imgMinimaize, &form.imgWebLink, &form.Label4, &form.Label14, &form.Label17,
-             &form.imgButton[0], &form.imgButton[4], &form.lblClass[4], &form.picSkin[0]}) {
-        SCOPED_TRACE(control->objectName().toStdString());
-        const QImage before = control->grab().toImage();
+    const auto looks = [](QWidget& control) { return control.grab().toImage(); };
+    const QImage bar = looks(form.Image2);
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{&form.Image1, &form.imgMinimaize, &form.imgWebLink, &form.Label4,
+                                         &form.Label14, &form.Label17, &form.imgButton[0], &form.imgButton[3],
+                                         &form.imgButton[4], &form.lblClass[4], &form.picSkin[0]}) {
+        const QImage before = looks(*control);
         QTest::mousePress(control, Qt::LeftButton);
-        EXPECT_NE(control->grab().toImage(), before);
-    }
-    const auto bar = [&form] { return form.Image2.grab().toImage(); };
-    form.imgButton_MouseUp(0, 1, 0, 0, 0);
-    const QImage released = bar();
-    for (std::int16_t i = 0; i < 5; ++i) {
-        form.imgButton_MouseDown(i, 1, 0, 0, 0);
-        EXPECT_EQ(bar() == released, i == 4) << i;
-        form.imgButton_MouseUp(i, 1, 0, 0, 0);
-        EXPECT_EQ(bar(), released) << i;
+        EXPECT_NE(looks(*control), before) << control->objectName().toStdString();
+        const bool onBar = control == &form.imgButton[0] || control == &form.imgButton[3];
+        EXPECT_EQ(looks(form.Image2) != bar, onBar);
+        form.imgButton_MouseUp(0, 1, 0, 0, 0);
     }
 }
 
@@ -89,14 +85,9 @@ TEST(Window, SaysWhyThereIsNothingToPlayWithAndGoesOn) {
     EXPECT_EQ(game.Model().CardsInMatrix(), 0);
     game.Open();
     game.form->imgButton_Click(0);
-    EXPECT_EQ(
-        game.dialogs.told.join('|').toStdString(),
-        "\"test.png\" is not there.|There is no skin to play with. A skin is a picture of 3 x 13 cards; "
-        "put one into " +
-            game.folder.path().toStdString() + "/Art.");
+    EXPECT_EQ(game.dialogs.told.value(0), "\"test.png\" is not there.");
+    EXPECT_TRUE(game.dialogs.told.value(1).endsWith("put one into " + game.Art().chopped(1) + '.'));
     EXPECT_EQ(game.form->CurrentMenu, 2);
-    game.form->imgButton_Click(1);
-    EXPECT_TRUE(game.form->fraScreen[1].Visible());
 }
 
 TEST(Info, ShowsTheRulesReadAfreshEachTime) {
@@ -112,7 +103,10 @@ TEST(Info, ShowsTheRulesReadAfreshEachTime) {
     const auto shown = [&game] {
         return frmInfo(game.form.get(), ProgramFolder(game.folder.path())).Text1.toPlainText();
     };
-    for (const auto& [happens, text] : cases) happens(), EXPECT_EQ(shown(), text);
+    for (const auto& [happens, text] : cases) {
+        happens();
+        EXPECT_EQ(shown(), text);
+    }
     QFile::remove(path);
     WriteFile(path, "manual"), QFile::resize(path, 1 << 30);
     EXPECT_LT(shown().size(), 1'000'000) << "a file that is no manual is shown in part";
