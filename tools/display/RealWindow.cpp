@@ -45,11 +45,6 @@ QRect RealWindow::Place() const {
     return {x, y, attributes.width, attributes.height};
 }
 
-void RealWindow::MoveTo(QPoint corner) {
-    XMoveWindow(display_, window_, corner.x(), corner.y());
-    Await([&] { return (place_ = Place()).topLeft() == corner; }, std::chrono::seconds(3));
-}
-
 RealWindow::~RealWindow() {
     if (display_) XCloseDisplay(display_);
 }
@@ -108,13 +103,6 @@ QImage RealWindow::Look(const QRect& area) const {
     QImage image = view.convertToFormat(QImage::Format_ARGB32).convertToFormat(QImage::Format_RGB32);
     XDestroyImage(pixels);
     return image;
-}
-
-bool RealWindow::AwaitClosed() const {
-    return Await([this] {
-        XWindowAttributes attributes;
-        return !XGetWindowAttributes(display_, window_, &attributes) || attributes.map_state != IsViewable;
-    });
 }
 
 void RealWindow::Focus() const {

@@ -20,10 +20,6 @@ public:
 
     [[nodiscard]] bool Found() const { return window_ != 0; }
     [[nodiscard]] QRect OnScreen() const { return place_; }
-    // Where the window is now, wherever it was before.
-    [[nodiscard]] QRect Place() const;
-    // Moves the window and waits until it is there: two windows that cover one another cannot be watched.
-    void MoveTo(QPoint corner);
 
     // What the window shows at `area`.
     [[nodiscard]] QImage Look(const QRect& area) const;
@@ -32,9 +28,6 @@ public:
     // something on the screen has changed.
     bool Await(const std::function<bool()>& seen,
                std::chrono::milliseconds limit = std::chrono::seconds(20)) const;
-
-    // Waits until the window is gone; false when it stays.
-    bool AwaitClosed() const;
 
     // Gives the window the keyboard at once; a click leaves it to the window manager when.
     void Focus() const;
@@ -45,6 +38,7 @@ public:
     void Release(unsigned button) const;
 
 private:
+    [[nodiscard]] QRect Place() const;
     [[nodiscard]] unsigned long Find(unsigned long parent, const QString& title, unsigned long except) const;
     void WatchDamage();
     [[nodiscard]] bool AwaitDamage(std::chrono::milliseconds limit) const;

@@ -60,12 +60,8 @@ VirtualDisplay::VirtualDisplay() {
     if (windowManager_.waitForStarted()) AwaitWindowManager(name_);
 }
 
-void VirtualDisplay::EndWindowManager() {
-    End(windowManager_);
-}
-
 VirtualDisplay::~VirtualDisplay() {
-    EndWindowManager();
+    End(windowManager_);
     End(server_);
 }
 

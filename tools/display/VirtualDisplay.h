@@ -15,10 +15,6 @@ public:
     // This process's environment with the display in it, and without any other; what a program keeps for its
     // user goes into a folder that ends with this.
     [[nodiscard]] QProcessEnvironment Environment() const;
-    // The windows stay where they are, with nobody to arrange them.
-    void EndWindowManager();
-    // Ends the X server at once, as when it crashes.
-    void Kill() { server_.kill(), server_.waitForFinished(); }
 
 private:
     QTemporaryDir config_;
