@@ -5,6 +5,7 @@ import contextlib
 import os
 import pathlib
 import resource
+import sqlite3
 import subprocess
 import sys
 import tempfile
@@ -71,7 +72,7 @@ class Desk:
     def __init__(self, program, scale=1, **environment):
         self.program, self.scale, self.processes, self.kept = program, scale, [], tempfile.TemporaryDirectory()
         self.folder = pathlib.Path(self.kept.name)
-        self.home, self.store = self.folder / "home", self.folder / "CONFIG/Tesselor/registry.txt"
+        self.home, self.store = self.folder / "home", self.folder / "CONFIG/Tesselor/store.sqlite"
         (self.home / "Art").mkdir(parents=True)
         write_skin(self.home / "Art/cards.ppm")
         write_skin(self.home / "Art/other.ppm", tint=1)
@@ -148,6 +149,11 @@ class Desk:
     def key(self, *names):
         codes = [self.x.keysym_to_keycode(XK.string_to_keysym(name)) for name in names]
         self.send(*((event, code) for code in codes for event in (X.KeyPress, X.KeyRelease)))
+
+    # All that the store holds.
+    def stored(self):
+        with contextlib.closing(sqlite3.connect(self.store)) as store:
+            return str(store.execute("SELECT * FROM strings").fetchall())
 
     def look(self):
         (x, y), (width, height) = self.on_screen((0, 0)), (int(399 * self.scale), int(411 * self.scale))

@@ -77,7 +77,7 @@ def play_by_keys(desk):
         desk.steer(START, choose(board, kind, seen.part(*POINTS) != zero))
         desk.act("space")
     desk.key("z", "o", "e", "Return")
-    until(lambda: "zoe" in desk.store.read_text(), "the name is not kept")
+    until(lambda: "zoe" in desk.stored(), "the name is not kept")
     return desk.see(lambda seen: not seen.is_covered(), "no table").part(*SCREEN)
 
 
