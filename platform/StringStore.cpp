@@ -31,7 +31,7 @@ constexpr const char* kBegin =
     "PRAGMA encoding = 'UTF-16'; PRAGMA synchronous = EXTRA; PRAGMA max_page_count = 256; BEGIN IMMEDIATE";
 
 constexpr off_t kMostBytes = 4 << 20;  // of a file, its journal with room to spare
-constexpr int kMostWaits = 1000;       // of two milliseconds
+constexpr int kMostWaits = 2000;       // of a millisecond
 
 // The files that SQLite may leave beside a store and needs to read it; the store's own comes last.
 constexpr const char* kFiles[] = {"-journal", "-wal", "-shm", ""};
@@ -173,7 +173,7 @@ QString StringStore::UserFile() {
 
 int StringStore::WaitForOthers(void* waits, int) {
     if (*static_cast<int*>(waits) == kMostWaits) return 0;
-    QThread::msleep(2);
+    QThread::msleep(1);
     return ++*static_cast<int*>(waits);
 }
 

@@ -48,6 +48,8 @@ TEST(Registry, GivesTheStoredTextOrTheDefault) {
     Sql(store.path, "INSERT INTO strings VALUES('software\\tesselor\\score', 'number', 42)");
     const QString found = Read("0") + Read("ÜNDER") + Read("Empty") + Read("cut");
     EXPECT_EQ(found, "12,345abefore");
+    EXPECT_TRUE(QFile::link(store.path, store.folder.filePath("link")));
+    EXPECT_EQ(StringStore(store.folder.filePath("link")).String(kKey, "0"), "12,345");
     const QString missing[] = {Read("1"), Read("number"), Read("0", kMachine), Read("0", kUser, kKey + "s")};
     for (const QString& text : missing) EXPECT_EQ(text, "default");
     Write("number", "text");
@@ -152,6 +154,10 @@ pid_t Play(int first, int last = INT_MAX - 10) {
     for (int score = first; score <= last; score += 10) {
         const QString text = QString::number(score);
         EnterHighScore({text, text, text});
+        std::optional<mdlRegistry::Step> step(std::in_place);
+        Write("entries", QString::number(Read("entries").toInt() + 1));
+        step.reset();
+        usleep(2'000);  // for others to begin theirs
     }
     _exit(0);
 }
@@ -171,6 +177,7 @@ TEST(Registry, TwoGamesThatEndAtOnceBothFindTheirRows) {
     const StoreFile store;
     for (const pid_t game : {Play(11, 2010), Play(12, 2010)}) EXPECT_EQ(waitpid(game, nullptr, 0), game);
     EXPECT_EQ(Scores(), (std::vector{2002, 2001, 1992, 1991}));
+    EXPECT_EQ(Read("entries"), "400");
 }
 
 TEST(Registry, AKilledGameTearsNothing) {
