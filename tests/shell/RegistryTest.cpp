@@ -48,6 +48,8 @@ TEST(Registry, GivesTheStoredTextOrTheDefault) {
     Sql(store.path, "INSERT INTO strings VALUES('software\\tesselor\\score', 'number', 42)");
     const QString found = Read("0") + Read("ÜNDER") + Read("Empty") + Read("cut");
     EXPECT_EQ(found, "12,345abefore");
+    StringStore(store.folder.filePath("new/one")).SetString(kKey, "0", "text");
+    EXPECT_TRUE(QFile::exists(store.folder.filePath("new/one")));
     EXPECT_TRUE(QFile::link(store.path, store.folder.filePath("link")));
     EXPECT_EQ(StringStore(store.folder.filePath("link")).String(kKey, "0"), "12,345");
     const QString missing[] = {Read("1"), Read("number"), Read("0", kMachine), Read("0", kUser, kKey + "s")};
@@ -157,7 +159,6 @@ pid_t Play(int first, int last = INT_MAX - 10) {
         std::optional<mdlRegistry::Step> step(std::in_place);
         Write("entries", QString::number(Read("entries").toInt() + 1));
         step.reset();
-        usleep(2'000);  // for others to begin theirs
     }
     _exit(0);
 }
@@ -189,7 +190,7 @@ TEST(Registry, AKilledGameTearsNothing) {
     const auto longest =
         std::mt19937::result_type(entries.nsecsElapsed() / 2000);  // two entries, in microseconds
     int best = 40;
-    for (int time = 0; time < 200; ++time) {
+    for (int time = 0; time < 300; ++time) {
         const pid_t game = Play(best + 10);
         usleep(unsigned(chance() % longest));
         kill(game, SIGKILL);
