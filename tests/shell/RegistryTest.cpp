@@ -190,7 +190,7 @@ TEST(Registry, AKilledGameTearsNothing) {
     const auto longest =
         std::mt19937::result_type(entries.nsecsElapsed() / 2000);  // two entries, in microseconds
     int best = 40;
-    for (int time = 0; time < 300; ++time) {
+    for (int time = 0; time < 200; ++time) {
         const pid_t game = Play(best + 10);
         usleep(unsigned(chance() % longest));
         kill(game, SIGKILL);
