@@ -38,13 +38,10 @@ Rect FillTrack::Unfilled() const {
     return backward_ ? Between(0, fillLine_) : Between(fillLine_, length_);
 }
 
-Rect FillTrack::Band(double advance, double extent) const {
-    if (backward_) return Between(length_ - advance - extent, length_ - advance);
-    return Between(advance, advance + extent);
-}
-
-Rect FillTrack::EndBand(double extent) const {
-    return backward_ ? Between(0, extent) : Between(length_ - extent, length_);
+Rect FillTrack::Band(int i, int bands) const {
+    const double from = length_ * i / bands;
+    const double to = length_ * (i + 1) / bands;
+    return backward_ ? Between(length_ - to, length_ - from) : Between(from, to);
 }
 
 bool FillTrack::ReachesFillLine(const Rect& band) const {

@@ -4,7 +4,7 @@
 #include "progbar/ProgBarState.h"
 
 // The way a bar fills its surface: from one side to the opposite one, up to the fill line at Percent. Gives
-// the rectangles along it, each from side to side across it. Distances are pixels from the side it starts at.
+// the rectangles along it, each from side to side across it.
 // A FillDirection outside its range has no way: every rectangle is then the whole surface.
 class FillTrack {
 public:
@@ -12,17 +12,13 @@ public:
     FillTrack(const ProgBarState& state, std::int32_t width, std::int32_t height);
 
     [[nodiscard]] bool HasDirection() const { return hasDirection_; }
-    // From the start to the end, in pixels.
-    [[nodiscard]] double Length() const { return length_; }
 
     // The parts on the two sides of the fill line.
     [[nodiscard]] Rect Filled() const;
     [[nodiscard]] Rect Unfilled() const;
 
-    // The band `extent` long that begins at `advance`.
-    [[nodiscard]] Rect Band(double advance, double extent) const;
-    // The last band, at the very end.
-    [[nodiscard]] Rect EndBand(double extent) const;
+    // Band `i` of `bands` equally long ones, band 0 at the start.
+    [[nodiscard]] Rect Band(int i, int bands) const;
     // Whether the far edge of `band`, as rounded, is at the fill line or beyond it: it is not shown then.
     [[nodiscard]] bool ReachesFillLine(const Rect& band) const;
 
@@ -34,6 +30,6 @@ private:
     bool hasDirection_;
     bool vertical_ = false;
     bool backward_ = false;  // fills towards the left or the top
-    double length_ = 0;
-    double fillLine_ = 0;  // counted from the left or the top
+    double length_ = 0;      // from the start to the end
+    double fillLine_ = 0;    // counted from the left or the top
 };

@@ -11,54 +11,32 @@ namespace {
 
 constexpr std::array<GradientDepth, 6> kDepths{{{4, 64}, {8, 64}, {15, 32}, {16, 256}, {24, 256}, {32, 256}}};
 
-// A colour on its way through the gradient, or the way of one band.
-struct Channels {
-    float red;
-    float green;
-    float blue;
-};
-
-Channels Split(Colour colour) {
-    const auto channel = [colour](int shift) { return static_cast<float>((colour >> shift) & 0xFF); };
-    return {channel(0), channel(8), channel(16)};
-}
-
-Colour Join(const Channels& channels) {
-    return Floor(channels.red) + 256 * Floor(channels.green) + 65536 * Floor(channels.blue);
-}
-
-Channels PerBand(const Channels& from, const Channels& to, std::int16_t bands) {
-    return {(to.red - from.red) / bands, (to.green - from.green) / bands, (to.blue - from.blue) / bands};
-}
-
-Channels Sum(const Channels& a, const Channels& b) {
-    return {a.red + b.red, a.green + b.green, a.blue + b.blue};
+// The colour of band `i` of `bands`: each channel on its own, rounded down.
+Colour BandColour(Colour from, Colour to, int i, int bands) {
+    Colour mixed = 0;
+    for (const int shift : {0, 8, 16}) {
+        const int start = (from >> shift) & 0xFF;
+        const int end = (to >> shift) & 0xFF;
+        mixed |= (start * (bands - i) + end * i) / bands << shift;
+    }
+    return mixed;
 }
 
 // Paints the bands short of the fill line. Returns the band it stopped at, `bands` when all were painted.
-// The advance is summed up band by band, not multiplied: its rounding decides on which pixel an edge falls.
-int DrawBands(const ProgBarState& state, const FillTrack& track, std::int16_t bands,
-              DrawingSurface& surface) {
-    const double extent = track.Length() / bands;
-    Channels colour = Split(state.BarStartColour);
-    const Channels step = PerBand(colour, Split(state.BarEndColour), bands);
-    double advance = 0;
+int DrawBands(const ProgBarState& state, const FillTrack& track, int bands, DrawingSurface& surface) {
     for (int i = 0; i < bands; ++i) {
-        const Rect band = track.Band(advance, extent);
+        const Rect band = track.Band(i, bands);
         if (track.ReachesFillLine(band)) return i;
-        surface.FillRect(band, Join(colour));
-        advance += extent;
-        colour = Sum(colour, step);
+        surface.FillRect(band, BandColour(state.BarStartColour, state.BarEndColour, i, bands));
     }
     return bands;
 }
 
-// The end band closes a full gradient with the exact end colour, which the bands only come near. Without a
-// direction no band has a place, and the end band alone is the bar.
-void DrawGradient(const ProgBarState& state, const FillTrack& track, std::int16_t bands,
-                  DrawingSurface& surface) {
+// The last band closes a full gradient with the exact end colour, which the bands only come near. Without a
+// direction no band has a place, and the last one alone is the bar.
+void DrawGradient(const ProgBarState& state, const FillTrack& track, int bands, DrawingSurface& surface) {
     if (track.HasDirection() && DrawBands(state, track, bands, surface) < bands - 1) return;
-    surface.FillRect(track.EndBand(track.Length() / bands), BrushColour(state.BarEndColour));
+    surface.FillRect(track.Band(bands - 1, bands), BrushColour(state.BarEndColour));
 }
 
 }  // namespace
