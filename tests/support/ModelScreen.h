@@ -33,7 +33,7 @@ public:
     bool PlaySoundFile(std::string_view source, std::uint32_t flags) override {
         return Saw(source, flags), true;
     }
-    void GameOver() override { ++gamesOver; }
+    void GameOver() override { Saw("GameOver"), ++gamesOver; }
 
     void RestartLockTimers() override {
         Saw("RestartLockTimers");
