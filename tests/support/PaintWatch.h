@@ -5,21 +5,18 @@
 #include <QWidget>
 
 // Remembers which part of a window is painted, by itself or by a control in it, in its own pixels.
-class PaintWatch final : public QObject {
-public:
-    explicit PaintWatch(QWidget& window) : window_(window) {
+struct PaintWatch final : QObject {
+    QWidget& window;
+    QRegion painted;
+
+    explicit PaintWatch(QWidget& itsWindow) : window(itsWindow) {
         window.installEventFilter(this);
         for (QWidget* control : window.findChildren<QWidget*>()) control->installEventFilter(this);
     }
-    QRegion painted;
-
-private:
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() != QEvent::Paint) return false;
-        const QPoint corner = static_cast<QWidget*>(watched)->mapTo(&window_, QPoint(0, 0));
+        const QPoint corner = static_cast<QWidget*>(watched)->mapTo(&window, QPoint(0, 0));
         painted += static_cast<QPaintEvent*>(event)->region().translated(corner);
         return false;
     }
-
-    QWidget& window_;
 };
