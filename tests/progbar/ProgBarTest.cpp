@@ -158,15 +158,14 @@ struct Rules : Host {
     void PrintCaption() {
         UserScale(100, 100);
         const auto digits = [&](const char* key) { return std::to_string(static_cast<int>(now[key])); };
-        const double share = now["ShowPercent"], value = now["ShowValue"], down = now["VerticalText"];
-        std::string text = now["ShowMessage"] != 0 ? kTexts[static_cast<std::size_t>(now["Message"])] : "";
+        const auto on = [&](const char* key) { return now[key] != 0; };
+        const bool share = on("ShowPercent"), value = on("ShowValue"), down = on("VerticalText");
+        std::string text = on("ShowMessage") ? kTexts[static_cast<std::size_t>(now["Message"])] : "";
         if ((share || value) && !text.empty()) text += ' ';
         text += share ? digits("Percent") + '%' : value ? digits("Value") + '/' + digits("Max") : "";
         std::vector<std::string> parts(down ? 0 : 1);
-        for (const char c : text) {
-            if (parts.empty() || (down && (c & 0xC0) != 0x80)) parts.emplace_back();
-            parts.back() += c;
-        }
+        for (const char c : text)
+            (parts.empty() || (down && (c & 0xC0) != 0x80) ? parts.emplace_back() : parts.back()) += c;
         double y = 50;
         for (const std::string& part : parts) y -= TextHeight(part) / 2;
         for (const std::string& part : parts) Print(50 - TextWidth(part) / 2, y, part), y += TextHeight(part);

@@ -40,18 +40,12 @@ public:
         game->CurrentInterval(LockTime(game->SetLevel(), game->CardsInMatrix()));
     }
     void ResetBoardScreen() override {
-        game->CardsInMatrix(0);
-        game->CardsUsed(0);
-        game->CardSum(kCardsInGame);
-        game->NextCard(kCardKinds);
-        game->CurrentCard(game->DrawKind());
-        game->PosCurrentCard(kStartCell);
+        game->CardsInMatrix(0), game->CardsUsed(0), game->CardSum(kCardsInGame);
+        game->NextCard(kCardKinds), game->CurrentCard(game->DrawKind()), game->PosCurrentCard(kStartCell);
     }
     void StartNextTurn() override {
         Saw("StartNextTurn", game->PosCurrentCard());
-        game->PosCurrentCard(kStartCell);
-        game->CurrentCard(game->NextCard());
-        game->NextCard(kCardKinds);
+        game->PosCurrentCard(kStartCell), game->CurrentCard(game->NextCard()), game->NextCard(kCardKinds);
         game->CardsUsed(SaturatedSum(game->CardsUsed(), 1));
         if (game->CardsUsed() < kCardsInGame) RestartLockTimers();
     }
