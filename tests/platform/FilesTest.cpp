@@ -1,85 +1,60 @@
 // The program's folder, over the installed copy it grows from, and the sound files in it.
 
-#include <QDir>
-#include <QTemporaryDir>
 #include <QtEndian>
-#include <random>
+#include <filesystem>
 
-#include "platform/ProgramFolder.h"
-#include "platform/SoundFiles.h"
-#include "platform/SoundOutput.h"
 #include "platform/WaveData.h"
 #include "tests/support/Files.h"
+#include "tests/support/GameWindow.h"
 
 namespace {
 
-TEST(ProgramFolder, FindsNamesWhateverTheirCase) {
-    const QTemporaryDir root;
-    QDir(root.path()).mkpath("art/Sub");
-    for (const char* name : {"art/Sea.PNG", "art/sea.png", "art/b.png", "art/A.png"})
-        WriteFile(root.filePath(name), "");
-    qputenv("TESSELOR_HOME", root.path().toUtf8());
-    const ProgramFolder folder = ProgramFolder::Find();
-    for (const auto& [name, path] : {std::pair{"\\Art\\sea.png", "art/sea.png"},
-                                     {"\\Art\\Sea.PNG", "art/Sea.PNG"},
-                                     {"\\ART\\B.PNG", "art/b.png"},
-                                     {"\\Art\\new.png", "art/new.png"},
-                                     {"\\x", "x"}})
-        EXPECT_EQ(folder.Path(name), root.filePath(path));
-    EXPECT_EQ(folder.Files("\\Art\\").mid(0, 2), QStringList({"A.png", "b.png"}));
-    EXPECT_EQ(folder.Files("\\Art\\").size(), 4);  // files only
-    EXPECT_TRUE(folder.Files("\\none\\").isEmpty());
-    qunsetenv("TESSELOR_HOME");
-    EXPECT_NE(ProgramFolder::Find().Path("\\x"), root.filePath("x"));
+// Does in `root` what each word says: removes a path after a minus, makes a folder before a slash, otherwise
+// makes a file that holds the word's first letter.
+void Do(const QDir& root, const QString& words) {
+    for (const QString& word : words.split(' ', Qt::SkipEmptyParts)) {
+        const QString path = root.filePath(word.mid(1));
+        root.mkpath(path.left(path.lastIndexOf('/')));
+        if (word[0] == '-') QFile::remove(path), QDir(path).removeRecursively();
+        if (word[0] != '-' && !word.endsWith('/')) WriteFile(path, word.left(1).toUtf8());
+    }
 }
 
-// What the user and releases of the program do to the two folders, and the skins that the next start finds:
-// those of the user with a star.
+// What the user (+) and releases of the program (=) do, and the skins that the next start finds: whose each
+// is, with a mark where it is played from the installed copy.
 TEST(InstalledSkins, ComeOnceAndLeaveTheUsersOwn) {
     const QTemporaryDir root;
-    const auto in = [&root](const char* name) { return root.filePath(name); };
-    const auto start = [&] { return ProgramFolder::OfUser(in("home/own"), in("installed")); };
-    for (const char* folder : {"installed/Art", "installed/Res"}) QDir(root.path()).mkpath(folder);
-    for (const char* name : {"Art/garden.png", "Art/sea.png", "Res/rules.txt"})
-        WriteFile(root.filePath(QString("installed/") + name), "theirs");
-    const std::tuple<const char*, std::function<void()>, QStringList> steps[] = {
+    const auto start = [&] { return ProgramFolder::OfUser(root.filePath("h/own"), root.filePath("i")); };
+    const std::tuple<const char*, const char*, const char*> steps[] = {
         // A file in place of a folder stands for a home that cannot be written, for root too.
-        {"no home", [&] { WriteFile(in("home"), ""); }, {"garden.png", "sea.png"}},
-        {"one in the way",
-         [&] {
-             EXPECT_EQ(start().Path("\\Art\\sea.png"), in("installed/Art/sea.png"));
-             QFile::remove(in("home"));
-             QDir(root.path()).mkpath("home/own/.incoming-sea.png");
-         },
-         {"garden.png"}},
-        {"a home", [&] { QDir(root.path()).rmdir("home/own/.incoming-sea.png"); }, {"garden.png", "sea.png"}},
-        {"removed and added by the user",
-         [&] { QFile::remove(in("home/own/Art/sea.png")), WriteFile(in("home/own/Art/Night.png"), "*"); },
-         {"garden.png", "Night.png*"}},
-        {"a new release, with a name of the user's",
-         [&] {
-             WriteFile(in("installed/Art/night.png"), "."), WriteFile(in("installed/Art/glass.png"), ".");
-         },
-         {"garden.png", "glass.png", "Night.png*"}},
-        {"changed by the user",
-         [&] { QFile::remove(in("home/own/Art/glass.png")), WriteFile(in("home/own/Art/garden.png"), "*"); },
-         {"garden.png*", "Night.png*"}},
-        {"all removed", [&] { QDir(in("home/own/Art")).removeRecursively(); }, {}},
+        {"no home", "=i/Art/garden.png =i/Art/sea.png =i/Res/rules.txt +h", "garden.png=! sea.png=!"},
+        {"one in the way", "-h +h/own/.incoming-sea.png/", "garden.png="},
+        {"a home", "-h/own/.incoming-sea.png", "garden.png= sea.png="},
+        {"the user's changes", "-h/own/Art/sea.png +h/own/Art/Night.png", "garden.png= Night.png+"},
+        {"a release, one name the user's", "=i/Art/night.png =i/Art/glass.png +h/own/Art/Sub/",
+         "garden.png= glass.png= Night.png+"},
+        {"changed", "-h/own/Art/glass.png +h/own/Art/garden.png", "garden.png+ Night.png+"},
+        {"all removed", "-h/own/Art", ""},
     };
-    for (const auto& [what, change, expected] : steps) {
-        change();
+    for (const auto& [what, words, expected] : steps) {
+        Do(root.path(), words);
         QStringList skins = start().Files("\\Art\\");
-        for (QString& skin : skins)
-            if (ReadFile(start().Path("\\Art\\" + skin)) == "*") skin += '*';
-        EXPECT_EQ(skins, expected) << what;
+        for (QString& skin : skins) {
+            const QString path = start().Path("\\Art\\" + skin);
+            skin += ReadFile(path) + (path.startsWith(root.filePath("i/")) ? "!" : "");
+        }
+        EXPECT_EQ(skins.join(' '), expected) << what;
     }
-    EXPECT_EQ(QDir(in("home/own")).entryList(QDir::Files | QDir::Hidden), QStringList("installed-skins.txt"));
-    EXPECT_EQ(start().Path("\\Art\\sea.png"), in("home/own/Art/sea.png"));
-    EXPECT_EQ(start().Path("\\res\\Rules.txt"), in("installed/Res/rules.txt"));
-    EXPECT_EQ(start().Path("\\array.txt"), in("home/own/array.txt"));
-    QDir(root.path()).mkpath("home/own/Res");
-    WriteFile(in("home/own/Res/rules.txt"), "");
-    EXPECT_EQ(start().Path("\\Res\\rules.txt"), in("home/own/Res/rules.txt"));
+    EXPECT_EQ(QDir(root.filePath("h/own")).entryList(QDir::Files | QDir::Hidden),
+              QStringList("installed-skins.txt"));
+    Do(root.path(), "=i/Res/a.txt +h/own/Res/a.txt +h/own/Art/Sea.PNG +h/own/Art/sea.png");
+    for (const auto& [name, path] : {std::pair{"\\art\\sea.png", "h/own/Art/sea.png"},
+                                     {"\\Art\\Sea.PNG", "h/own/Art/Sea.PNG"},
+                                     {"\\Art\\gone.png", "h/own/Art/gone.png"},
+                                     {"\\res\\Rules.txt", "i/Res/rules.txt"},
+                                     {"\\array.txt", "h/own/array.txt"},
+                                     {"\\Res\\a.txt", "h/own/Res/a.txt"}})
+        EXPECT_EQ(start().Path(name), root.filePath(path));
 }
 
 template <class T>
@@ -106,14 +81,13 @@ TEST(WaveData, ReadsPlainSoundsAndRefusesEverythingElse) {
         };
         const int rate = usually(pick({8000, 11025, 48000}), pick({0, 7999, 48001}));
         const int channels = usually(pick({1, 2}), pick({0, 3})),
-                  bits = usually(pick({8, 16}), pick({0, 24}));
-        const int frame = channels * bits / 8;
+                  bits = usually(pick({8, 16}), pick({0, 24})), frame = channels * bits / 8;
         const QByteArray samples(usually(frame * pick({1, 2, 5}), qMax(0, frame - 1)), '\x90');
         const QByteArray format = Number<quint16>(usually(1, 2)) + Number<quint16>(channels) +
                                   Number<quint32>(rate) + Number<quint32>(rate * frame + usually(0, 1)) +
                                   Number<quint16>(frame + usually(0, 1)) + Number<quint16>(bits) + "\0\0";
         const auto others = [&] {
-            return random() % 2 ? Chunk("LIST", QByteArray(pick({0, 3, 4}), 'x')) : QByteArray();
+            return Chunk("LIST", QByteArray(pick({0, 3, 4}), 'x')).left(pick({0, 99}));
         };
         const QByteArray behind = others();
         QByteArray data = Chunk(usually("data", "DATA"), samples);
@@ -123,28 +97,27 @@ TEST(WaveData, ReadsPlainSoundsAndRefusesEverythingElse) {
                                 Chunk(usually("fmt ", "FMT "), format.left(usually(pick({16, 18}), 14))) +
                                 others() + data + behind;
         const QByteArray more(random() % 5, 'x');
-        const qsizetype size = body.size() + usually(0, int(more.size()) + 1);
-        const QByteArray whole =
-            usually("RIFF", "RIFX") + Number<quint32>(usually(size, pick({0, 3}))) + body;
-        const auto read = WaveData::Read(whole + more);
-        ASSERT_EQ(read.has_value(), good) << whole.toHex().toStdString();
-        EXPECT_FALSE(WaveData::Read(whole.left(qsizetype(random()) % whole.size())));
-        if (!read) continue;
-        ASSERT_EQ(std::tuple(read->rate, read->channels, read->bits), std::tuple(rate, channels, bits));
-        ASSERT_EQ(read->samples, samples);
+        const qsizetype size = usually(body.size() + usually(0, int(more.size()) + 1), pick({0, 3}));
+        QByteArray file = usually("RIFF", "RIFX") + Number<quint32>(size) + body + more;
+        const auto read = WaveData::Read(file);
+        ASSERT_EQ(read.has_value(), good) << file.toHex().toStdString();
+        ASSERT_TRUE(!read || std::tuple(read->rate, read->channels, read->bits, read->samples) ==
+                                 std::tuple(rate, channels, bits, samples));
+        EXPECT_FALSE(WaveData::Read(file.left(qsizetype(random()) % (8 + body.size()))));
+        for (int damage = pick({1, 2, 8}); damage > 0; --damage)
+            file[qsizetype(random() % file.size())] = char(random());
+        const auto wave = WaveData::Read(file);  // what is played of a damaged file stands in it
+        ASSERT_TRUE(!wave || (wave->rate >= 8000 && wave->rate <= 48000 && !wave->samples.isEmpty() &&
+                              wave->samples.size() % (wave->channels * wave->bits / 8) == 0 &&
+                              file.contains(wave->samples)));
     }
 }
-
-struct Recorder final : SoundOutput {
-    bool Play(const QByteArray& wave) override { return heard = wave, true; }
-    QByteArray heard;
-};
 
 TEST(SoundFiles, AreReadOnceUntilTheyChange) {
     const QTemporaryDir folder;
     const QString path = folder.filePath("a.wav");
-    Recorder recorder;
-    SoundFiles files(recorder);
+    RecordedSounds sounds;
+    SoundFiles files(sounds);
     const QByteArray largest(4 << 20, 'x');
     // What is written at which second, and what is played then.
     const std::tuple<const char*, QByteArray, int, QByteArray> steps[] = {
@@ -153,15 +126,12 @@ TEST(SoundFiles, AreReadOnceUntilTheyChange) {
         {"the largest", largest, 3, largest}, {"too large", largest + 'x', 3, "refused"},
     };
     for (const auto& [what, bytes, second, played] : steps) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::ReadWrite | QIODevice::Truncate));
-        file.write(bytes);
-        file.flush();
-        file.setFileTime(QDateTime::fromSecsSinceEpoch(second), QFileDevice::FileModificationTime);
-        EXPECT_EQ(files.Play(path) ? recorder.heard : "refused", played) << what;
+        WriteFile(path, bytes);
+        last_write_time(std::filesystem::path(path.toStdString()),
+                        std::filesystem::file_time_type(std::chrono::seconds(second)));
+        EXPECT_EQ(files.Play(path) ? sounds.heard.last() : "refused", played) << what;
     }
-    for (const QString& other :
-         {folder.filePath("none.wav"), folder.path(), MakePipe(folder.filePath("pipe.wav"))})
+    for (const QString& other : {folder.filePath("none"), folder.path(), MakePipe(folder.filePath("pipe"))})
         EXPECT_FALSE(files.Play(other));
 }
 
