@@ -9,12 +9,13 @@ struct sqlite3;
 // A store of string values addressed by key path and value name, both compared without regard to case: one
 // SQLite database, which is open only while it is used. The file is its owner's alone.
 //
-// What stands in its place and cannot be read (damaged, something else, too large, a folder, closed to us)
-// counts as an empty store. The next change sets it aside under another name, never overwrites it.
+// What stands in its place and cannot be read (damaged, something else, a folder, closed to us) counts as an
+// empty store. The next change sets it aside under another name, never overwrites it.
 class StringStore {
 public:
     // A store in `file`, which is opened when it is first asked for something.
     explicit StringStore(QString file) : file_(std::move(file)) {}
+    Q_DISABLE_COPY_MOVE(StringStore)
 
     // The file of the current user, in the configuration folder.
     [[nodiscard]] static QString UserFile();
@@ -32,17 +33,13 @@ public:
     void End();
 
 private:
-    struct Close {
-        void operator()(sqlite3* database) const;
-    };
-    using Connection = std::unique_ptr<sqlite3, Close>;
+    using Connection = std::shared_ptr<sqlite3>;
 
     [[nodiscard]] Connection Open() const;
     [[nodiscard]] bool Lock();
-    static int WaitForOthers(void* waits, int);
 
     QString file_;
-    mutable Connection change_;  // none when it could not begin or has failed, in a read too
     bool changing_ = false;
-    mutable int waits_ = 0;  // since others last let us through
+    mutable bool othersHang_ = false;  // found at the last use
+    mutable Connection change_;        // none when it could not begin or has failed, in a read too
 };
