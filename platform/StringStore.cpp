@@ -112,7 +112,8 @@ void StringStore::Begin() {
 bool StringStore::Lock() {
     const QFileInfo entry(file_);
     if (entry.exists() && !(entry.isFile() && entry.isReadable())) return false;
-    QFile(file_).open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner);
+    static_cast<void>(
+        QFile(file_).open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner));
     change_ = Open();
     const bool begun = Execute(change_.get(), kBegin);
     if (begun && IsGood(change_.get())) return true;

@@ -58,11 +58,12 @@ std::pair<ino_t, QByteArray> Entry(const QString& path) {
 }
 
 TEST(Registry, SetsAsideWhatItCannotRead) {
-    static const QByteArray whole = StoreFile({{kKey, "0", "before"}}).Bytes();
+    static const QByteArray whole = StoreFile({{kKey, "0", "a"}, {kKey, "1", "b"}}).Bytes();
     using Path = const QString&;
     const std::pair<const char*, void (*)(Path)> wrecks[] = {
         {"a text", [](Path path) { WriteFile(path, "[A]\n"); }},
         {"damaged", [](Path path) { WriteFile(path, whole.first(4096) + QByteArray(4096, 'x')); }},
+        {"out of order", [](Path path) { WriteFile(path, QByteArray(whole).replace("score0a", "score9a")); }},
         {"another's", [](Path path) { Sql(path, "CREATE TABLE other(x)"); }},
         {"a folder, a journal", [](Path path) { QDir().mkpath(path), WriteFile(path + "-journal", "j"); }},
         {"a pipe", [](Path path) { MakePipe(path); }},
@@ -82,26 +83,23 @@ TEST(Registry, SetsAsideWhatItCannotRead) {
     }
 }
 
-void LimitFiles(bool full) {
-    const rlimit limit{full ? 0 : RLIM_INFINITY, RLIM_INFINITY};
-    setrlimit(RLIMIT_FSIZE, &limit);
-}
-
 TEST(Registry, AFullDiskOrAProcessThatHangsLeaveTheStoreAsItWas) {
     const StoreFile store({{kKey, "0", "before"}});
     signal(SIGXFSZ, SIG_IGN);
-    for (const auto& [hangs, fullAt, read] : {
-             std::tuple("", 1, "before"),
-             {"", 2, "before"},
-             {"BEGIN; SELECT * FROM strings", 0, "before"},
-             {"BEGIN IMMEDIATE", 0, "before"},
-             {"BEGIN EXCLUSIVE", 0, "default"},
-         }) {
+    const auto fill = [](bool full) {
+        const rlimit limit{full ? 0 : RLIM_INFINITY, RLIM_INFINITY};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    };
+    for (const auto& [hangs, fullAt, read] : {std::tuple("", 1, "before"),
+                                              {"", 2, "before"},
+                                              {"BEGIN; SELECT * FROM strings", 0, "before"},
+                                              {"BEGIN IMMEDIATE", 0, "before"},
+                                              {"BEGIN EXCLUSIVE", 0, "default"}}) {
         const auto other = Sql(store.path, hangs);
         std::optional<mdlRegistry::Step> step(std::in_place);
-        for (const int write : {1, 2}) LimitFiles(fullAt == write), Write(QString::number(write), "after");
+        for (const int write : {1, 2}) fill(fullAt == write), Write(QString::number(write), "after");
         step.reset();
-        LimitFiles(false);
+        fill(false);
         for (int time = 0; time < 1000; ++time)  // would each take seconds
             ASSERT_EQ(Read("0") + Read("1") + Read("2"), QString(read) + "defaultdefault") << hangs << fullAt;
     }
