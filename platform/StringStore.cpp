@@ -68,7 +68,7 @@ QString StringStore::UserFile() {
     return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + "/store.sqlite";
 }
 
-// Nothing is read yet. What fails last before it is closed, because others hang, is what it has waited for.
+// Nothing is read yet. What happened last before it is closed tells whether others hang.
 StringStore::Connection StringStore::Open() const {
     sqlite3* database = nullptr;
     sqlite3_open_v2(QFile::encodeName(file_).constData(), &database, SQLITE_OPEN_READWRITE, nullptr);
