@@ -75,19 +75,6 @@ TEST(Game, MouseMovesOnceIntoACellAndLocksWhereTheCardIs) {
         EXPECT_EQ(game.Model().CardAt(static_cast<std::int16_t>(cell)).Number, kind);
 }
 
-TEST(Game, FrameAndShadeAreCombinedByAnd) {
-    GameWindow game;
-    game.PlayKinds({0, 16, 32});
-    game.LockAt(5);
-    game.MoveTo(5);
-    const QImage shown = game.Cell(5).Contents().Render(1);
-    const QRgb shaded = game.Card(16).At(1).pixel(30, 30) & ToQColor(kButtonFace).rgb();
-    for (const QPoint inFrame : {QPoint(1, 30), QPoint(3, 3), QPoint(59, 30)})  // pixels 1..3 from each edge
-        EXPECT_EQ(shown.pixel(inFrame), shaded & 0xFFFF0000);
-    for (const QPoint beside : {QPoint(0, 30), QPoint(4, 4), QPoint(30, 30), QPoint(56, 56)})
-        EXPECT_EQ(shown.pixel(beside), shaded);
-}
-
 TEST(Game, MadeUpArgumentsDoNoHarm) {
     GameWindow game;
     game.PlayKinds({0, 16, 32});
