@@ -124,9 +124,13 @@ TEST_F(Skins, DroppedOnesTakeASlotUnderAFreeName) {
         EXPECT_EQ(dialogs.told.contains("Are You Sure You want To Replace This Skin !"), full);
         EXPECT_EQ(dialogs.told.size(), full + (full && !taken && dialogs.answer));
         EXPECT_EQ(std::tuple(form->CurrentSkin, form->SkinCount), std::tuple(filled, art.size()));
-        for (int i = 0; i < 12; ++i)  // the red frame
-            EXPECT_EQ(form->picSkin[std::size_t(i)].Contents().Render(1).pixel(1, 20) == 0xFFFF0000,
-                      i == filled);
+        for (int framed = filled; const int over : {-1, 0, 11, filled}) {  // the red frame follows the mouse
+            form->picSkin_MouseMove(std::int16_t(over), 0, 0, 0, 0);
+            if (over >= 0 && over < form->SkinCount) framed = over;
+            for (int i = 0; i < 12; ++i)
+                EXPECT_EQ(form->picSkin[std::size_t(i)].Contents().Render(1).pixel(1, 20) == 0xFFFF0000,
+                          i == framed);
+        }
         EXPECT_TRUE(!taken || form->skinFile[std::size_t(filled)] == becomes);
         dialogs.answer = true;
     }
@@ -142,7 +146,7 @@ TEST_F(Skins, OfALinkTheFileIsTakenAndTheLinkGoes) {
     EXPECT_FALSE(QFileInfo(link).isSymLink() || QFileInfo(Art("link.png")).isSymLink());
     EXPECT_TRUE(QFile::exists(target));
     Drop(0, Art("v.png"));  // a file of the skin folder becomes the choice
-    EXPECT_TRUE(form->CurrentSkin == 3 && dialogs.told.isEmpty());
+    EXPECT_TRUE(form->CurrentSkin == 3 && dialogs.told.isEmpty() && form->lblSkinName.Caption() == "v");
     EXPECT_FALSE(Drop(5, {kPage, QUrl::fromLocalFile(target)}) || Drop(5, QList<QUrl>()));
     EXPECT_EQ(Files(), QStringList({"link.png", "test.png", "u.png", "v.png"}));
 }
