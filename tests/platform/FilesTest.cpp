@@ -104,7 +104,7 @@ TEST(WaveData, ReadsPlainSoundsAndRefusesEverythingElse) {
                                  std::tuple(rate, channels, bits, samples));
         EXPECT_FALSE(WaveData::Read(file.left(qsizetype(random()) % (8 + body.size()))));
         for (int damage = pick({1, 2, 8}); damage > 0; --damage)
-            file[qsizetype(random() % file.size())] = char(random());
+            file[qsizetype(random()) % file.size()] = char(random());
         const auto wave = WaveData::Read(file);  // what is played of a damaged file stands in it
         ASSERT_TRUE(!wave || (wave->rate >= 8000 && wave->rate <= 48000 && !wave->samples.isEmpty() &&
                               wave->samples.size() % (wave->channels * wave->bits / 8) == 0 &&
