@@ -14,13 +14,11 @@ import time
 from Xlib import X, XK, display
 from Xlib.ext import xtest
 
-LINES = [range(row, row + 4) for row in (0, 4, 8, 12)] + [range(column, 16, 4) for column in range(4)]
-LINES += [range(0, 16, 5), range(3, 13, 3)]
 SANITIZED = "--sanitized" in sys.argv
 START, ERASER, COVER, BLACK = 12, 36, 36, -1
 # Where things are, in logical pixels from the window's corner.
 HELP, SCORE, MENU, PLAY, MINIMISE, EXIT = (367, 125), (367, 172), (367, 217), (366, 262), (363, 11), (384, 11)
-BACKGROUND, PREVIEW, SCREEN, POINTS = (345, 80), (84, 361), (60, 130, 250, 150), (236, 372, 146, 28)
+BACKGROUND, PREVIEW, SCREEN = (345, 80), (84, 361), (60, 130, 250, 150)
 LEVELS = [(121, 114 + 24 * level) for level in range(5)]
 SLOTS = [(191 + slot % 3 * 42, 120 + slot // 3 * 44) for slot in range(12)]
 CELLS = [(83 + cell % 4 * 66, 93 + cell // 4 * 66) for cell in range(16)]
@@ -40,23 +38,6 @@ def write_skin(path, width=12, height=52, tint=0):
     colours = [bytes([128 | kind & 31, 16 | kind & 32, 255 - tint]) * (width // 3) for kind in range(39)]
     rows = (b"".join(colours[row * 3:row * 3 + 3]) * (height // 13) for row in range(13))
     path.write_bytes(b"P6 %d %d 255\n" % (width, height) + b"".join(rows))
-
-
-# The lines that a card would complete in a free cell, and how many elements their cards share.
-def completed(board, cell, kind):
-    cards = [*board[:cell], kind, *board[cell + 1:]]
-    for line in (line for line in LINES if cell in line and None not in [cards[each] for each in line]):
-        shapes, colours, quantities = zip(*((cards[each] // 12, cards[each] % 3, cards[each] // 3 % 4) for each in line))
-        run = quantities in [(0, 1, 2, 3), (3, 2, 1, 0)]
-        yield line, run + sum(len(set(element)) == 1 for element in (shapes, colours, quantities))
-
-
-# The free cell in which a card completes most, or any; for an eraser one with a card.
-def choose(board, kind, careless=False):
-    erases = kind >= ERASER and any(card is not None for card in board)
-    cells = [cell for cell in range(16) if (board[cell] is None) != erases]
-    careless = careless or kind >= ERASER
-    return max(cells, key=lambda cell: 0 if careless else sum(shared for _, shared in completed(board, cell, kind)))
 
 
 # A limit of a process's files or memory; not in a sanitizer's, which ends a program that has none.
