@@ -49,6 +49,11 @@ def limited(process, kind, limit):
     resource.prlimit(process.pid, kind, (most, most))
 
 
+# The addresses that a process takes up, and some more.
+def room(process, more):
+    return int(pathlib.Path(f"/proc/{process.pid}/statm").read_text().split()[0]) * resource.getpagesize() + more
+
+
 class Desk:
     def __init__(self, program, scale=1, **environment):
         self.program, self.scale, self.processes, self.kept = program, scale, [], tempfile.TemporaryDirectory()

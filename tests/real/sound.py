@@ -10,7 +10,7 @@ import wave
 
 import numpy
 
-from desk import CELLS, ERASER, HELP, PLAY, SANITIZED, START, Desk, limited, until
+from desk import CELLS, ERASER, HELP, PLAY, SANITIZED, START, Desk, limited, room, until
 
 RATE = 22050
 
@@ -66,6 +66,8 @@ def each_sound_as_it_is(listener, program, files):
     assert play("nothing") == "0\n"
     with limited(player, resource.RLIMIT_NOFILE, 3):
         assert SANITIZED or play(":/wave/104.wav") == "0\n", "no files to be had"
+    with limited(player, resource.RLIMIT_AS, room(player, 50_000_000)):  # a connection takes 64 megabytes of addresses
+        until(lambda: SANITIZED or play(":/wave/104.wav") == "0\n", "no memory to be had")
     for path in files:
         since = listener.hears(samples(path), play, path if path.name == "Space.wav" else f":/wave/{path.name}", since=since)
     for move in (samples(files[3])[:RATE // 12],) * 4:
@@ -79,9 +81,9 @@ def each_sound_as_it_is(listener, program, files):
     os.kill(listener.server.pid, signal.SIGCONT)
 
 
-# The game goes on while the server hangs, and without server, files and memory; then it is heard again.
+# The game goes on while the server hangs, and without server and files; then it is heard again.
 def game_goes_on(listener, desk, files):
-    click, pid = samples(files[10]), desk.game.pid
+    click = samples(files[10])
     listener.hears(click, desk.click, PLAY)
     erases = desk.turn().card(CELLS[START]) >= ERASER
     listener.hears(samples(files[0 if erases else -1]), desk.lock, 5)
@@ -90,11 +92,9 @@ def game_goes_on(listener, desk, files):
     listener.server.kill()
     listener.server.wait()
     (desk.folder / "native").unlink()
-    room = int(pathlib.Path(f"/proc/{pid}/statm").read_text().split()[0]) * resource.getpagesize() + 30_000_000
-    for kind, limit in ((resource.RLIMIT_NOFILE, len(os.listdir(f"/proc/{pid}/fd"))), (resource.RLIMIT_AS, room)):
-        with limited(desk.game, kind, limit):
-            desk.move(8)
-            desk.move(9)
+    with limited(desk.game, resource.RLIMIT_NOFILE, len(os.listdir(f"/proc/{desk.game.pid}/fd"))):
+        desk.move(8)
+        desk.move(9)
     Listener(desk).hears(click, desk.click, HELP)
     desk.leave()
 

@@ -9,7 +9,7 @@ import signal
 import sys
 import time
 
-from desk import CELLS, HELP, LEVELS, MENU, PLAY, SANITIZED, SCORE, SCREEN, SLOTS, START, Desk, limited, until, write_skin
+from desk import CELLS, HELP, LEVELS, MENU, PLAY, SANITIZED, SCORE, SCREEN, SLOTS, START, Desk, limited, room, until, write_skin
 
 CARDS_LEFT = (176, 360, 50, 51)
 
@@ -27,15 +27,11 @@ def suspended(desk):
     assert sum(card is not None for card in late.board()) <= 3
 
 
-def kilobytes(desk, field):
-    return int(pathlib.Path(f"/proc/{desk.game.pid}/status").read_text().split(field)[1].split()[0])
-
-
 # Too little memory for a skin of the largest size: the player is told, and the game goes on.
 def no_memory(desk):
     desk.click(MENU, SLOTS[1])
     desk.see(lambda seen: seen.at(*SLOTS[1]) == (128, 16, 255), "the slot is not there")
-    with limited(desk.game, resource.RLIMIT_AS, (kilobytes(desk, "VmSize:") + 20_000) * 1024):
+    with limited(desk.game, resource.RLIMIT_AS, room(desk.game, 20_000_000)):
         desk.click(PLAY)
         desk.find(other=desk.window)
     desk.answer("Return")
@@ -53,7 +49,8 @@ def thousands_of_clicks(desk):
         desk.click(*CELLS[5:7] * (100 if SANITIZED else 1000))
         desk.key("p")
         desk.see(lambda seen: seen.is_covered(), "no pause")
-        return kilobytes(desk, "VmRSS:"), len(os.listdir(f"/proc/{desk.game.pid}/fd"))
+        memory = int(pathlib.Path(f"/proc/{desk.game.pid}/statm").read_text().split()[1])
+        return memory, len(os.listdir(f"/proc/{desk.game.pid}/fd"))
     (memory, files), (later, more) = burst(), burst()
     assert more <= files + 4 and (SANITIZED or later < memory * 1.1), (memory, later, files, more)
 
