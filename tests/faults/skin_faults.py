@@ -32,6 +32,7 @@ with tempfile.TemporaryDirectory() as folder:
         count[name] += 1
         faults = ["signal=KILL", "error=" + ERRORS.get(name, "")][:1 + (name in ERRORS)] if folder in line else []
         cases += [(name, f"{fault}:when={count[name]}") for fault in faults]
+assert count["fsync"], "a power cut could lose the skin"
 came_in = collections.Counter()
 for name, fault in cases:
     with tempfile.TemporaryDirectory() as folder:

@@ -65,8 +65,8 @@ class Desk:
         folders = {f"XDG_{name}_HOME": str(self.folder / name) for name in ("CONFIG", "DATA", "CACHE", "STATE")}
         self.env = os.environ | folders | {
             "XDG_RUNTIME_DIR": self.kept.name, "PULSE_SERVER": f"unix:{self.folder}/native", "LC_ALL": "C.UTF-8",
-            "DBUS_SESSION_BUS_ADDRESS": "disabled:", "QT_QPA_PLATFORM": "xcb", "QT_SCALE_FACTOR": str(scale),
-            "TESSELOR_HOME": str(self.home)} | environment
+            "DBUS_SESSION_BUS_ADDRESS": "disabled:", "QT_QPA_PLATFORM": "xcb", "GDK_BACKEND": "x11",
+            "QT_SCALE_FACTOR": str(scale), "TESSELOR_HOME": str(self.home)} | environment
         # Keys do not repeat: on a busy machine any press is a long one.
         self.server = self.start("Xvfb", "-displayfd", "1", "-screen", "0", "1400x1000x24", "-r", stdout=subprocess.PIPE)
         self.env["DISPLAY"] = ":" + self.server.stdout.readline().strip()

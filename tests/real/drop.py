@@ -48,12 +48,13 @@ def drag(desk, file, slot):
 def journey(desk):
     desk.play()
     desk.click(MENU)
+    desk.see(lambda seen: seen.at(*SLOTS[1])[2] == 254, "no slots")
     new, broken, art = desk.folder / "new.ppm", desk.folder / "broken.ppm", desk.home / "Art"
     broken.write_bytes(b"P6 12 52 255\n")
-    for file, slot, answer, skins in [
-            (new, 7, None, ["cards", "new", "other"]), (new, 1, "Escape", ["cards", "new", "other"]),
-            (new, 1, "Return", ["cards", "new-2", "new"]), (broken, 5, "Return", ["cards", "new-2", "new"]),
-            (art / "cards.ppm", 9, None, ["cards", "new-2", "new"])]:
+    for file, slot, answer, skins, into in [
+            (new, 7, None, ["cards", "new", "other"], 2), (new, 1, "Escape", ["cards", "new", "other"], None),
+            (new, 1, "Return", ["cards", "new-2", "new"], 1), (new, 2, "Return", ["cards", "new-2", "new"], 2),
+            (broken, 5, "Return", ["cards", "new-2", "new"], None), (art / "cards.ppm", 9, None, ["cards", "new-2", "new"], 0)]:
         if file == new:
             write_skin(new, tint=9)
         before = desk.look().part(*CHOSEN)
@@ -62,9 +63,9 @@ def journey(desk):
             desk.answer(answer)
         until(lambda: sorted(each.name for each in art.iterdir()) == [skin + ".ppm" for skin in skins],
               f"not {skins} after {file} on {slot}")
-        changes = file != broken and answer != "Escape"
-        desk.see(lambda seen: (seen.part(*CHOSEN) != before) == changes, "the wrong skin is chosen")
-        assert file.exists() == (file != new or not changes)
+        desk.see(lambda seen: (seen.part(*CHOSEN) == before) == (into is None), "the wrong skin is chosen")
+        desk.see(lambda seen: into is None or seen.at(*SLOTS[into])[2] == (255 if into == 0 else 246), "not in its slot")
+        assert file.exists() == (file != new or into is None)
         source.kill()
     desk.leave()
 
