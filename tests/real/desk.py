@@ -5,7 +5,6 @@ import contextlib
 import os
 import pathlib
 import resource
-import sqlite3
 import subprocess
 import sys
 import tempfile
@@ -135,11 +134,6 @@ class Desk:
     def key(self, *names):
         codes = [self.x.keysym_to_keycode(XK.string_to_keysym(name)) for name in names]
         self.send(*((event, code) for code in codes for event in (X.KeyPress, X.KeyRelease)))
-
-    # All that the store holds.
-    def stored(self):
-        with contextlib.closing(sqlite3.connect(self.store)) as store:
-            return str(store.execute("SELECT * FROM strings").fetchall())
 
     def look(self):
         (x, y), (width, height) = self.on_screen((0, 0)), (int(399 * self.scale), int(411 * self.scale))

@@ -7,12 +7,11 @@ import time
 
 import gi
 
-from desk import START, Desk, choose, until
+from desk import START, Desk, until
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, Gio, GLib  # noqa: E402
 
-CARD = re.compile(r"shape (\d), colour (\d), quantity (\d)")
 PLACES = [f"Row {cell // 4 + 1}, column {cell % 4 + 1}" for cell in range(16)]
 TURN = "focused " + PLACES[START]
 
@@ -65,26 +64,19 @@ class Reader:
         action = until(lambda: self.named(start), f"{start} is not shown").get_action_iface()
         assert action.get_action_name(0) == "Press" and action.do_action(0), start
 
-    # The cells as kinds, None where there is no card, and the kind of the active card.
-    def board(self):
-        kinds, active = [None] * 16, 36
+    # The first cell without a card of its own.
+    def free(self):
         cells = [name for name in (each.get_name() for each in self.read()) if name.startswith("Row")]
-        for cell, name in enumerate(cells):
-            cards = [12 * int(a) + 3 * int(c) + int(b) - 16 for a, b, c in CARD.findall(name)]
-            if "active card" in name and "eraser," not in name:
-                active = cards.pop(0)
-            kinds[cell] = cards[0] if cards else None
-        return kinds, active
+        return next(cell for cell, name in enumerate(cells) if name.endswith(("empty", "active card")))
 
-    # A game to its end; its score as it was told.
+    # A game to its end, by keys and by pressing cells in turn; its score as it was told.
     def play_a_game(self):
-        told, heard = 0, self.hears(TURN, self.press, "play")
+        told, turn, heard = 0, 0, self.hears(TURN, self.press, "play")
         while "Game over" not in heard:
-            board, active = self.board()
-            to, by_keys = choose(board, active, told > 300), active % 2
-            if by_keys and to != START:
+            to, turn = self.free(), turn + 1
+            if turn % 2 and to != START:
                 self.hears("focused " + PLACES[to], self.desk.steer, START, to)
-            act = (self.desk.key, "space") if by_keys else (self.press, PLACES[to])
+            act = (self.desk.key, "space") if turn % 2 else (self.press, PLACES[to])
             heard = self.hears(f"{TURN}|Game over", *act)
             told += sum(int(points.replace(",", "")) for points in re.findall(r"scored: ([\d,]+)", str(self.heard)))
         self.hears(f"Game over. Score {told:,}.")
