@@ -9,14 +9,14 @@
 
 namespace {
 
-constexpr std::int16_t kPlay = 0, kMenu = 1, kHelp = 2, kScore = 3, kMore = 4;
+constexpr std::int16_t kPlay = 0, kMenu = 1, kHelp = 2, kScores = 3, kMore = 4;
 
 // The bar's picture while button 0..3 is held down, and released.
 constexpr const char* kPressedBar[] = {"menubar-play", "menubar-menu", "menubar-help", "menubar-score"};
 constexpr const char* kReleasedBar = "menubar";
 
 bool OnBar(std::int16_t index) {
-    return index >= kPlay && index <= kScore;
+    return index >= kPlay && index <= kScores;
 }
 
 }  // namespace
@@ -58,7 +58,7 @@ QString frmGame::RunAction(std::int16_t menu) {
         case kMenu:
             ShowMenu();
             break;
-        case kScore:
+        case kScores:
             ShowScores();
             break;
         case kMore:
@@ -110,9 +110,9 @@ void frmGame::ShowHelp() {
 
 // The high scores light no caption; the one lit before is remembered, and comes back with another button.
 void frmGame::Highlight(std::int16_t menu) {
-    if (menu != kScore && menu == CurrentMenu) return;
+    if (menu != kScores && menu == CurrentMenu) return;
     lblCaption[static_cast<std::size_t>(CurrentMenu)].ForeColor(kWhite);
-    if (menu == kScore) return;
+    if (menu == kScores) return;
     lblCaption[static_cast<std::size_t>(menu)].ForeColor(Look::kLitCaption);
     CurrentMenu = menu;
 }

@@ -7,12 +7,12 @@
 namespace {
 
 const QString kSkinFolder = QStringLiteral("\\Art\\");
-constexpr int kFrameWidth = 2;
+constexpr int kSlotFrameWidth = 2;
 constexpr QPoint kThumbnailCorner(-12, -12);  // the cell's outer edge is cut off in the slot
 constexpr QPoint kChosenCorner(-2, -2);
 
 void DrawFrame(PictureBox& slot, Colour colour) {
-    slot.DrawWidth(kFrameWidth);
+    slot.DrawWidth(kSlotFrameWidth);
     slot.DrawBox({1, 1}, {slot.width() - 1, slot.height() - 1}, colour);
 }
 
