@@ -63,6 +63,9 @@ TEST(Recording, IsAddedToTheFileAsOftenAsAsked) {
     QDir().mkdir(path);  // nothing can be written there
     game.form->cmdPrint_Click();
     EXPECT_EQ(game.dialogs.told, QStringList("The recording could not be written to " + path + '.'));
+    Recording full;
+    for (int i = 0; i < 40000; ++i) full.Move(static_cast<std::int16_t>(i % 16));
+    EXPECT_EQ(full.DemoMoveCount(), 32767);
 }
 
 // The disk is full in the middle of the text.
