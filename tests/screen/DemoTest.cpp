@@ -1,10 +1,7 @@
-#include <gtest/gtest.h>
 #include <sys/resource.h>
 
-#include <QTest>
 #include <csignal>
 
-#include "tests/support/Files.h"
 #include "tests/support/GameWindow.h"
 
 namespace {

@@ -1,8 +1,5 @@
-#include <gtest/gtest.h>
-
-#include <QTest>
-
 #include "screen/HighScoreTable.h"
+#include "screen/ScoreText.h"
 #include "tests/support/GameWindow.h"
 #include "tests/support/StoreFile.h"
 
@@ -83,6 +80,19 @@ TEST(HighScores, TheNameEntryHasTheKeyboard) {
     EXPECT_EQ(game.Shown()[0] + game.Shown()[1], " P |11/24/26|300Zoë|11/24/26|250");
     form.imgButton_Click(0);
     EXPECT_EQ(form.focusWidget(), &form);
+}
+
+// As every locale writes numbers, and as none does.
+TEST(ScoreText, ReadsWholeNumbersHoweverTheyAreGrouped) {
+    for (const QLocale& locale :
+         QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry))
+        for (const std::int32_t score : {0, 10, 999, 1000, 12345, 123456, 1234567, 2147483647})
+            EXPECT_EQ(ScoreFromText(locale.toString(score)), score) << locale.name().toStdString();
+    for (const char* none :
+         {"", "12,", ",345", "12.34", "12345,678", "1,2,345", "1,234.567", "250 points", "2²"})
+        EXPECT_EQ(ScoreFromText(QString::fromUtf8(none)), 0) << none;
+    EXPECT_EQ(ScoreFromText("2.147.483.648"), 2147483647) << "the most there is";
+    EXPECT_EQ(ScoreFromText(" 250\n"), 250);
 }
 
 }  // namespace

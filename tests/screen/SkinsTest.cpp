@@ -1,14 +1,10 @@
 // Which files fill the slots, what becomes of dropped ones, and that none is ever lost.
 
-#include <gtest/gtest.h>
-
 #include <QBuffer>
-#include <QCoreApplication>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
 
-#include "tests/support/Files.h"
 #include "tests/support/GameWindow.h"
 
 namespace {

@@ -2,17 +2,13 @@
 // the way of the keyboard. The platform of these tests has no desktop that could tell of a listener, so the
 // toolkit's own parts are asked.
 
-#include <gtest/gtest.h>
-
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
 
 #include <QAbstractEventDispatcher>
 #include <QMetaEnum>
-#include <QTest>
 
-#include "tests/support/Files.h"
 #include "tests/support/GameWindow.h"
 #include "tests/support/StoreFile.h"
 
@@ -105,6 +101,9 @@ TEST_F(Spoken, EveryScreenHasItsWordsAndWays) {
     PlayKinds({7, 37, 38, 16, 7, 37}, 3);
     Lock(), Key(kKeyUp), MoveTo(12);
     screen("board");
+    form->lblClass_MouseMove(3, 0, 0, 0, 0);
+    for (const QWidget* control : form->findChildren<QWidget*>())
+        QDebug(&words).nospace() << control->objectName() << ' ' << control->geometry() << '\n';
     RightClick();
     screen("pause");
     RightClick(), LockAt(5), LockAt(6);

@@ -2,12 +2,13 @@
 
 #include <QPainter>
 #include <QTemporaryDir>
+#include <QTest>
 #include <deque>
 #include <random>
-#include <vector>
 
 #include "platform/SoundOutput.h"
 #include "screen/frmGame.h"
+#include "tests/support/Files.h"
 #include "tests/support/VirtualTime.h"
 
 // Random numbers as a test wants them: those it names first, then a fixed sequence. Knows the beginning of a
