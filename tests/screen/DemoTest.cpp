@@ -44,40 +44,29 @@ TEST(Demo, PlaysTheSameGameWhateverHappensMeanwhile) {
     EXPECT_TRUE(game.Cell(12).isEnabled());
 }
 
-TEST(Recording, IsAddedToTheFileAsOftenAsAsked) {
+TEST(Recording, IsAddedToTheFileWholeOrNotAtAll) {
     GameWindow game;
-    const QString path = game.folder.filePath("array.txt");
-    game.form->cmdPrint_Click();
-    EXPECT_FALSE(QFile::exists(path));  // before the first game there is nothing to write
+    const QString path = game.folder.filePath("array.txt"),
+                  told = "The recording could not be written to %1.";
+    std::signal(SIGXFSZ, SIG_IGN);
+    const auto print = [&](rlim_t most) {  // on a disk that has no room for a file of more bytes
+        const rlimit disk{most, RLIM_INFINITY}, whole{RLIM_INFINITY, RLIM_INFINITY};
+        setrlimit(RLIMIT_FSIZE, &disk), game.form->cmdPrint_Click(), setrlimit(RLIMIT_FSIZE, &whole);
+        return QFile::exists(path) ? ReadFile(path) : "none";
+    };
+    EXPECT_EQ(print(RLIM_INFINITY), "none");  // before the first game there is nothing to write
     game.PlayKinds({7, 16, 32});
     for (const int cell : {8, 4}) game.MoveTo(cell);
     const QByteArray once = "ArrDemo(0) = 0\r\nArrDemo(1) = 8\r\nArrDemo(2) = 4\r\nArrDemoCard(0) = 7\r\n";
-    for (const QByteArray& text : {once, once + once}) {
-        game.form->cmdPrint_Click();
-        EXPECT_EQ(ReadFile(path), text);
-    }
+    EXPECT_EQ(print(RLIM_INFINITY), once);
+    EXPECT_EQ(print(RLIM_INFINITY), once + once);
+    EXPECT_EQ(print(150), once + once);
     QFile::remove(path);
-    QDir().mkdir(path);  // nothing can be written there
-    game.form->cmdPrint_Click();
-    EXPECT_EQ(game.dialogs.told, QStringList("The recording could not be written to " + path + '.'));
+    EXPECT_EQ(print(10), "none");
+    EXPECT_EQ(game.dialogs.told, QStringList(2, told.arg(path)));
     Recording full;
     for (int i = 0; i < 40000; ++i) full.Move(static_cast<std::int16_t>(i % 16));
     EXPECT_EQ(full.DemoMoveCount(), 32767);
-}
-
-// The disk is full in the middle of the text.
-TEST(Recording, LeavesTheFileAsItWasWhenItDoesNotFit) {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath("array.txt");
-    std::signal(SIGXFSZ, SIG_IGN);
-    for (const auto& [text, fits] :
-         {std::pair(QByteArray("kept\r\n"), true), {QByteArray(100, 'x'), false}}) {
-        const rlimit full{10, RLIM_INFINITY}, free{RLIM_INFINITY, RLIM_INFINITY};
-        setrlimit(RLIMIT_FSIZE, &full);
-        EXPECT_EQ(AppendToFile(path, text), fits);
-        setrlimit(RLIMIT_FSIZE, &free);
-        EXPECT_EQ(ReadFile(path), "kept\r\n");
-    }
 }
 
 }  // namespace

@@ -1,67 +1,32 @@
 #include "tests/simulation/Simulation.h"
 
-#include <QApplication>
-#include <QTest>
-
-#include "screen/Look.h"
-
 using namespace std::chrono_literals;
 
-namespace {
-
-constexpr unsigned kMostCalls = 16;  // a demonstration's, that an event lets go by before it happens
-
-// Real clicks of one simulated world never make a double click with those of the next.
-std::chrono::milliseconds timestamp{0};
-
-}  // namespace
-
 Simulation::Simulation(unsigned seed) {
-    timestamp += 10s;
+    QTestPrivate::qtestMouseButtons = {};  // those of the world before
     random.rest.seed(seed);
-    WriteSkin(Art("night.png"));
+    WriteFile(Art("night.png"), skin);
     time.onProcessEvents = [this] { Inside(); };
     dialogs.meanwhile = [this] {  // a player who takes three seconds, and says yes to every other question
         time.Pass(3s);
         dialogs.answer = !dialogs.answer;
-        confirmed += dialogs.answer;
+        mayGo += dialogs.answer;
     };
-    otherWindow.setGeometry(500, 500, 50, 50);
     otherWindow.show();
-    Restart();
-    Mouse(QEvent::MouseMove, {1, 1}, Qt::NoButton);
-    Remember();
-}
-
-Simulation::~Simulation() {
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton})
-        if (held_ & button) Mouse(QEvent::MouseButtonRelease, {1, 1}, button);
-}
-
-void Simulation::Restart() {
-    gamesBefore += random.games;
-    random.games = random.turns = 0;
-    Open();
-    form->show();
-    Attend();
+    before.store = Bytes(), before.table = StoredTable();
+    Happen({{"the start", [](Simulation&, std::uint32_t) {}}, 0});
 }
 
 void Simulation::Play(const Script& events) {
     events_ = &events;
-    next_ = 0;
-    while (next_ < events.size() && broken.empty()) {
-        Happen(events[next_++]);
-        if (!broken.empty() || IsOpen()) continue;
-        Restart();
-        Check(events[next_ - 1]);
-    }
+    for (next_ = 0; next_ < events.size() && broken.empty();) Happen(events[next_++]);
     events_ = nullptr;
 }
 
 void Simulation::Inside() {
     if (!events_ || next_ == events_->size() || !broken.empty() || !IsOpen()) return;
     const Event& event = (*events_)[next_];
-    if (calls_++ < event.choice / 256 % kMostCalls) return;
+    if (calls_++ < event.second / 256 % 16) return;  // each event lets some calls go by
     calls_ = 0;
     ++next_;
     inDemo = stepLeftOver = true;
@@ -70,45 +35,42 @@ void Simulation::Inside() {
 }
 
 void Simulation::Happen(const Event& event) {
-    confirmed = 0;
+    mayGo = 0;
     dialogs.told.clear();
-    const EventKind& kind = EventKinds()[event.kind];
-    if (kind.byPlayer) Attend();
-    kind.happen(*this, event.choice);
+    event.first.happen(*this, event.second);
     QCoreApplication::processEvents();
-    if (broken.empty() && IsOpen()) Check(event);
-    passing = false;
-}
-
-void Simulation::Check(const Event& event) {
+    if (!broken.empty() || (inDemo && !IsOpen())) return;  // a demonstration unwinds before a restart
+    if (!IsOpen()) {
+        gamesBefore = random.games, before.games = -1;
+        Open();
+        form->show();
+        Attend();
+    }
     if (!inDemo && random.games != before.games) stepLeftOver = false;
+    onlyTime = event.first.name == std::string_view("time");
     broken = Broken(*this);
-    if (!broken.empty()) broken += std::string(", after ") + EventKinds()[event.kind].name;
+    if (!broken.empty()) broken += std::string(", after ") + event.first.name;
     Remember();
 }
 
 void Simulation::Remember() {
-    const int unlit = form->fraScreen[3].Visible() ? form->CurrentMenu : before.unlitMenu;
-    const bool anyLit = std::ranges::any_of(
-        form->lblCaption, [](const Label& label) { return label.ForeColor() == Look::kLitCaption; });
-    before.games = random.games, before.turns = random.turns, before.score = Model().Score();
-    before.play = form->play, before.now = time.Now();
-    before.timeCounts = form->Timer1.Enabled(), before.interval = form->Timer1.Interval();
-    before.unlitMenu = anyLit && !form->fraScreen[3].Visible() ? -1 : unlit;
+    const std::chrono::milliseconds interval(form->Timer1.Interval());
+    const bool limited = form->Timer1.Enabled() && interval > 0ms;
+    before.games = random.games, before.turns = random.turns;
+    before.score = Model().Score(), before.play = form->play;
+    before.limit = limited ? time.Now() + interval : std::chrono::milliseconds::max();
+    if (form->fraScreen[3].Visible() || form->CurrentMenu != before.unlitMenu)
+        before.unlitMenu = form->fraScreen[3].Visible() ? form->CurrentMenu : -1;
     if (const QByteArray bytes = Bytes(); bytes != before.store)
-        before.store = bytes, before.table = StoredTable(*this);
-    before.files.clear();
-    for (const QString& file : QDir(Art()).entryList(QDir::Files | QDir::Hidden)) before.files.insert(file);
+        before.store = bytes, before.table = StoredTable();
+    before.files = QDir(Art()).entryList(QDir::Files | QDir::Hidden);
 }
 
-std::vector<HighScore> StoredTable(const Simulation& world) {
-    std::vector<HighScore> table;
+QList<QStringList> StoredTable() {
+    QList<QStringList> table;
     for (int row = 0; row < kHighScores; ++row) {
-        const auto read = [&](const char* column) {
-            const QString path = QStringLiteral("Software\\Tesselor\\") + column;
-            return world.hive.String(path, QString::number(row)).value_or(QString());
-        };
-        table.push_back({read("Name"), read("Date"), read("Score")});
+        const auto [name, date, score] = StoredHighScore(row);
+        table.append({score, name, date});
     }
     return table;
 }
@@ -122,28 +84,19 @@ void Simulation::Attend() {
 }
 
 // To the window, which finds the control at `at` by itself; as the window system sends it.
-void Simulation::Mouse(QEvent::Type type, QPoint at, Qt::MouseButton button) {
-    if (type == QEvent::MouseButtonPress && !form->isActiveWindow()) form->activateWindow();
-    held_.setFlag(button, type == QEvent::MouseButtonPress);
-    timestamp += 10ms;
-    qt_handleMouseEvent(form->windowHandle(), at, form->mapToGlobal(at), held_, button, type, {},
-                        static_cast<int>(timestamp.count()));
-    QCoreApplication::processEvents();
-}
-
-void Simulation::Click(QPoint at, Qt::MouseButton button) {
-    timestamp += 1s;
-    if (!(held_ & button)) Mouse(QEvent::MouseButtonPress, at, button);
-    if (IsOpen()) Mouse(QEvent::MouseButtonRelease, at, button);
+void Simulation::Mouse(QTest::MouseAction action, QPoint at, Qt::MouseButton button) {
+    if (!IsOpen()) return;
+    Attend();
+    if (action != QTest::MouseMove && action != QTest::MouseRelease && !form->isActiveWindow())
+        form->activateWindow();
+    QTest::mouseEvent(action, form->windowHandle(), button, {}, at);
 }
 
 // To the control that has the keyboard, wherever that is.
 void Simulation::Key(int key, int repeats) {
     const QString text = key <= Qt::Key_Z ? QString(QChar(key).toLower()) : QString();
-    QWindow* window = QGuiApplication::focusWindow();
-    for (int press = 0; window && press <= repeats && IsOpen(); ++press) {
-        qt_handleKeyEvent(window, QEvent::KeyPress, key, {}, text, press > 0);
-        QCoreApplication::processEvents();
-    }
-    if (window && IsOpen()) qt_handleKeyEvent(window, QEvent::KeyRelease, key, {}, text);
+    Attend();
+    for (int press = 0; press <= repeats + 1; ++press)
+        if (QWindow* window = QGuiApplication::focusWindow(); window && IsOpen())
+            QTest::simulateEvent(window, press <= repeats, key, {}, text, press > 0 && press <= repeats);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QPainter>
+#include <QDir>
+#include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
 #include <deque>
@@ -17,7 +18,11 @@ class ScriptedRandom final : public RandomSource {
 public:
     void Reseed() override { reseeded_ = true; }
     std::int16_t Below(std::int16_t count) override {
-        if (count == kCardKinds) CountCard();
+        if (count == kCardKinds) {
+            const bool begins = !std::exchange(reseeded_, false);
+            turns = begins ? 0 : turns + 1;
+            games += begins;
+        }
         if (script.empty()) return static_cast<std::int16_t>(rest() % static_cast<unsigned>(count));
         const std::int16_t value = script.front();
         script.pop_front();
@@ -29,26 +34,18 @@ public:
     int games = 0, turns = 0;
 
 private:
-    void CountCard() {
-        const bool begins = !std::exchange(reseeded_, false);
-        turns = begins ? 0 : turns + 1;
-        games += begins;
-    }
     bool reseeded_ = false;
 };
 
 // Message boxes that answer at once and remember what they said.
 class AnsweredDialogs final : public Dialogs {
 public:
-    void Tell(QWidget*, const QString& sentence) override {
-        told.append(sentence);
-        if (meanwhile) meanwhile();
-    }
+    void Tell(QWidget*, const QString& sentence) override { told.append(sentence), meanwhile(); }
     bool Ask(QWidget* owner, const QString& question) override { return Tell(owner, question), answer; }
 
     QStringList told;
     bool answer = false;
-    std::function<void()> meanwhile;  // happens while a box is open
+    std::function<void()> meanwhile = [] {};  // happens while a box is open
 };
 
 // Remembers the sounds that would be heard, as the bytes of their files.
@@ -61,21 +58,17 @@ public:
 
 // A skin whose cells are all of different colours, as a PNG file.
 inline void WriteSkin(const QString& path, QSize cell = {20, 20}) {
-    QImage sheet(cell.width() * kSheetColumns, cell.height() * kSheetRows, QImage::Format_RGB32);
-    QPainter painter(&sheet);
-    for (int k = 0; k < kSheetCells; ++k)
-        painter.fillRect(QRect(QPoint(k % 3 * cell.width(), k / 3 * cell.height()), cell),
-                         QColor(255 - k, 200 + k, 240 - 2 * k));
-    painter.end();
-    sheet.save(path, "PNG");
+    QImage sheet(kSheetColumns, kSheetRows, QImage::Format_RGB32);
+    for (int k = 0; k < kSheetCells; ++k) sheet.setPixel(k % 3, k / 3, qRgb(255 - k, 200 + k, 240 - 2 * k));
+    sheet.scaled(cell.width() * kSheetColumns, cell.height() * kSheetRows).save(path, "PNG");
 }
 
 // The whole game window on virtual time, with a program folder of its own that holds the skin "test.png".
 class GameWindow {
 public:
-    explicit GameWindow(bool withSkin = true) {
-        QDir(folder.path()).mkdir(QStringLiteral("Art"));
-        if (withSkin) WriteSkin(Art("test.png"));
+    GameWindow() {
+        QDir(folder.path()).mkdir("Art");
+        WriteSkin(Art("test.png"));
         Open();
     }
 
@@ -92,10 +85,9 @@ public:
         form->imgButton_Click(0);
     }
     // Plays with a first, a second and further kinds given; what is drawn after them is arbitrary.
-    void PlayKinds(const std::vector<std::int16_t>& kinds, int level = 0) {
-        random.script.assign(kinds.begin(), kinds.end());
-        if (random.script.size() > 1)
-            std::swap(random.script[0], random.script[1]);  // the next card is drawn first
+    void PlayKinds(const std::deque<std::int16_t>& kinds, int level = 0) {
+        random.script = kinds;
+        std::swap(random.script[0], random.script[1]);  // the next card is drawn first
         Play(level);
     }
     void Key(int code) { form->Form_KeyDown(static_cast<std::int16_t>(code), 0); }
@@ -104,10 +96,7 @@ public:
         form->HoverCell = -1;
         form->picMat_MouseMove(static_cast<std::int16_t>(cell), 0, 0, 0, 0);
     }
-    void LockAt(int cell) {
-        if (Model().PosCurrentCard() != cell) MoveTo(cell);
-        Lock();
-    }
+    void LockAt(int cell) { form->LockInCell(static_cast<std::int16_t>(cell)); }
     void RightClick() { form->picMat_MouseDown(0, 2, 0, 0, 0); }
     [[nodiscard]] clsCard& Model() const { return form->Game(); }
     [[nodiscard]] Picture Card(int kind) const { return form->PicClip1.Cell(kind); }

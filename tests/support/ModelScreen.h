@@ -1,8 +1,5 @@
 #pragma once
 
-#include <cstdint>
-#include <string_view>
-
 #include "model/GameScreen.h"
 #include "model/Levels.h"
 #include "model/SaturatedSum.h"
@@ -14,8 +11,7 @@ public:
     clsCard* game = nullptr;  // set before the first game
     int gamesOver = 0;
 
-    virtual void Saw(std::string_view /*request*/, std::int64_t /*first*/ = -1,
-                     std::int64_t /*second*/ = -1) {}
+    virtual void Saw(std::string_view /*request*/, std::int64_t = -1, std::int64_t = -1) {}
 
     void DrawCardMove(std::int16_t to, std::int16_t from) override { Saw("DrawCardMove", to, from); }
     void DrawCardMoveOverCard(std::int16_t to, std::int16_t from) override { Saw("MoveOverCard", to, from); }
@@ -30,9 +26,7 @@ public:
     void ShowNextCard(std::int16_t kind) override { Saw("ShowNextCard", kind); }
     void ShowCardsLeft(std::int32_t cards) override { Saw("ShowCardsLeft", cards); }
     bool PlayWave(std::int16_t resource) override { return Saw("PlayWave", resource), true; }
-    bool PlaySoundFile(std::string_view source, std::uint32_t flags) override {
-        return Saw(source, flags), true;
-    }
+    bool PlaySoundFile(std::string_view file, std::uint32_t how) override { return Saw(file, how), true; }
     void GameOver() override { Saw("GameOver"), ++gamesOver; }
 
     void RestartLockTimers() override {

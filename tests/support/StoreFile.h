@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QDir>
 #include <QTemporaryDir>
 
 #include "platform/StringStore.h"

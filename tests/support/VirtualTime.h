@@ -12,11 +12,8 @@ public:
     using Milliseconds = std::chrono::milliseconds;
 
     void Wait(Milliseconds duration) override { now_ += duration; }
-    void ProcessEvents() override {
-        if (onProcessEvents) onProcessEvents();
-        Pass(Milliseconds(0));
-    }
-    QDate Today() const override { return today; }
+    void ProcessEvents() override { onProcessEvents(), Pass(Milliseconds(0)); }
+    QDate Today() const override { return {2026, 11, 24}; }
     std::unique_ptr<Alarm> NewAlarm(std::function<void()> due) override {
         return std::make_unique<VirtualAlarm>(*this, std::move(due));
     }
@@ -32,8 +29,7 @@ public:
     }
     [[nodiscard]] Milliseconds Now() const { return now_; }
 
-    std::function<void()> onProcessEvents;  // what else happens when the game lets events run
-    QDate today{2026, 11, 24};
+    std::function<void()> onProcessEvents = [] {};  // what else happens when the game lets events run
 
 private:
     struct VirtualAlarm final : Alarm {
@@ -45,8 +41,7 @@ private:
         void Start(Milliseconds every) override { interval = every, due = time.now_ + every, running = true; }
         void Stop() override { running = false; }
         void Ring(Milliseconds now) {
-            due += interval;
-            if (due < now) due = now + interval;
+            due = (due + interval < now ? now : due) + interval;
             inside = true;
             ring();
             inside = false;
