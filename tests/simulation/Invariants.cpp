@@ -18,8 +18,8 @@ bool Occupied(const Simulation& w, std::int16_t cell) {
     return w.Model().CardAt(cell).Quantity != kNoCard;
 }
 
-// Covered in a pause; otherwise its locked card, and the active card over that of its cell. The words for
-// those who do not see it say the same: they are read off the drawings, and off what lies under the card.
+// Covered in a pause; otherwise its locked card, and the active card over that of its cell, which is kept
+// aside. The words for those who do not see it say the same: they are read off the pictures and drawings.
 bool CellIsRight(const Simulation& w, std::int16_t cell) {
     const bool paused = w.form->play == Play::Paused, occupied = Occupied(w, cell);
     const bool active = !paused && cell == w.Model().PosCurrentCard(), over = active && occupied;
@@ -28,9 +28,10 @@ bool CellIsRight(const Simulation& w, std::int16_t cell) {
     QString words = paused ? "covered" : due < 0 ? "empty" : CardInWords(due);
     if (active) words += ", active card";
     if (over) words += ", shaded, over " + CardInWords(locked);
+    const auto picture = [&w](int kind) { return kind < 0 ? Picture() : w.Card(kind); };
     const PictureContents& shown = w.Cell(cell).Contents();
-    return shown.picture == (due < 0 ? Picture() : w.Card(due)) &&
-           int(shown.drawings.size()) == active + over &&
+    return shown.picture == picture(due) && int(shown.drawings.size()) == active + over &&
+           (!active || w.form->picTemp.Picture() == picture(locked)) &&
            w.Cell(cell).access.name() ==
                QString("Row %1, column %2: %3").arg(cell / 4 + 1).arg(cell % 4 + 1).arg(words);
 }
