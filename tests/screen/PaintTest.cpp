@@ -1,6 +1,7 @@
 // The window on screens of every usual scale and one that no picture was drawn for, and what of the time bar
 // is painted anew.
 
+#include <QPainter>
 #include <QScreen>
 #include <QWindow>
 
