@@ -21,8 +21,8 @@ public:
     virtual void DrawCardMove(std::int16_t newCell, std::int16_t oldCell) = 0;
     // The same into an occupied cell: the active card is shown shaded.
     virtual void DrawCardMoveOverCard(std::int16_t newCell, std::int16_t oldCell) = 0;
-    // Shows the active card shaded over the locked card of `cell`, without giving back any other cell.
-    virtual void DrawCardOverCard(std::int16_t cell) = 0;
+    // Shows the active card in its cell, shaded when that is occupied, without giving back any other cell.
+    virtual void ShowActiveCard() = 0;
 
     // The new-game reset: sets the model's counters, draws the first two cards through the model's
     // properties and shows an empty board with the first card in cell 12.
@@ -39,8 +39,6 @@ public:
     virtual void ClearPicture(std::int16_t cell) = 0;
     // What was drawn on the picture of `cell` disappears; the picture stays.
     virtual void ClearDrawings(std::int16_t cell) = 0;
-    // Draws the red frame of the active card on `cell`.
-    virtual void DrawActiveFrame(std::int16_t cell) = 0;
     // `cell` turns black on the screen at once and stays so for 20 milliseconds, which this call waits.
     virtual void FlashCell(std::int16_t cell) = 0;
     // The picture kept aside for the cell under the active card becomes that of `cell`, or the empty one.

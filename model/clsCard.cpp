@@ -177,11 +177,7 @@ void clsCard::DealAfterEraser() {
     posCurrentCard_ = kStartCell;
     screen_.ClearDrawings(kStartCell);
     currentCard_ = nextCard_;
-    if (CheckForCard())
-        screen_.DrawCardOverCard(kStartCell);
-    else
-        screen_.ShowCard(kStartCell, currentCard_);
-    screen_.DrawActiveFrame(kStartCell);
+    screen_.ShowActiveCard();
     NextCard(kCardKinds);
     screen_.ShowNextCard(nextCard_);
 }

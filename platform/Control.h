@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QMouseEvent>
-#include <functional>
+#include <QWidget>
 
 #include "platform/Access.h"
 #include "platform/Colour.h"
@@ -37,51 +36,4 @@ private:
     void Settle() { this->setGeometry(place_.InPixels()); }
 
     TwipsRect place_;
-};
-
-// The mouse buttons as handlers receive them.
-inline constexpr std::int16_t kLeftButton = 1;
-inline constexpr std::int16_t kRightButton = 2;
-inline constexpr std::int16_t kMiddleButton = 4;
-
-// What a mouse handler is told besides the control: the button, or the sum of those held during a move; the
-// sum of the modifier keys (shift 1, control 2, alt 4); the position in pixels.
-struct MouseInput {
-    std::int16_t button = 0, shift = 0;
-    float x = 0, y = 0;
-};
-[[nodiscard]] MouseInput ToMouseInput(const QMouseEvent& event);
-
-// A control that hears the mouse. It swallows what it hears: a press on a control never moves the window,
-// whether the control is enabled or not.
-template <class Widget>
-class MouseControl : public Control<Widget> {
-public:
-    using Handler = std::function<void(const MouseInput&)>;
-
-    MouseControl(QWidget* parent, const Placement& placement) : Control<Widget>(parent, placement) {
-        this->setAttribute(Qt::WA_NoMousePropagation);
-        this->setMouseTracking(true);
-    }
-
-    Handler onMouseDown, onMouseUp;
-    Handler onMouseMove;            // with and without a button held
-    std::function<void()> onClick;  // the left button was released inside; not on what is hidden by then
-
-protected:
-    void mousePressEvent(QMouseEvent* event) override { Call(onMouseDown, *event); }
-    // The second press of a double click is a press like any other.
-    void mouseDoubleClickEvent(QMouseEvent* event) override { Call(onMouseDown, *event); }
-    void mouseMoveEvent(QMouseEvent* event) override { Call(onMouseMove, *event); }
-    void mouseReleaseEvent(QMouseEvent* event) override {
-        const bool inside = this->isVisible() && this->rect().contains(event->pos());
-        const bool click = inside && event->button() == Qt::LeftButton;
-        Call(onMouseUp, *event);
-        if (click && onClick) onClick();
-    }
-
-private:
-    static void Call(const Handler& handler, const QMouseEvent& event) {
-        if (handler) handler(ToMouseInput(event));
-    }
 };

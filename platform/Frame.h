@@ -2,13 +2,13 @@
 
 #include <QWidget>
 
-#include "platform/Control.h"
+#include "platform/MouseControl.h"
 #include "platform/Picture.h"
 
 // The frame control: a coloured or pictured sheet that holds other controls.
-class Frame : public MouseControl<QWidget> {
+class Frame : public MouseControl {
 public:
-    Frame(QWidget* parent, const Placement& placement) : MouseControl<QWidget>(parent, placement) {}
+    Frame(QWidget* parent, const Placement& placement) : MouseControl(parent, placement) {}
 
     void BackColor(Colour colour);
     void Background(const ::Picture& picture);

@@ -3,12 +3,12 @@
 #include <QWidget>
 
 #include "platform/Picture.h"
-#include "platform/Pressable.h"
+#include "platform/MouseControl.h"
 
 // The image control: shows a picture in its natural size, or nothing at all and is then a hot spot.
-class Image : public Pressable<QWidget> {
+class Image : public MouseControl {
 public:
-    Image(QWidget* parent, const Placement& placement) : Pressable<QWidget>(parent, placement) {}
+    Image(QWidget* parent, const Placement& placement) : MouseControl(parent, placement) {}
 
     void Picture(const ::Picture& picture);
     // The picture shown while the mouse is over the image.

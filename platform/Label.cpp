@@ -3,7 +3,7 @@
 #include <QPainter>
 
 Label::Label(QWidget* parent, const Placement& placement)
-    : Pressable<QWidget>(parent, placement), caption_(placement.caption) {
+    : MouseControl(parent, placement), caption_(placement.caption) {
     access = {QAccessible::StaticText, [this] { return Caption().simplified(); }};
 }
 

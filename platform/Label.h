@@ -2,11 +2,11 @@
 
 #include <QWidget>
 
-#include "platform/Pressable.h"
+#include "platform/MouseControl.h"
 
 // The label control: text in one colour on whatever lies behind it. The toolkit's own label lays out a whole
 // document as soon as it can take the keyboard.
-class Label : public Pressable<QWidget> {
+class Label : public MouseControl {
 public:
     Label(QWidget* parent, const Placement& placement);
 

@@ -77,7 +77,7 @@ QImage PictureContents::Render(qreal scale) const {
 }
 
 PictureBox::PictureBox(QWidget* parent, const Placement& placement, int border)
-    : Pressable<QWidget>(parent, placement), border_(border) {
+    : MouseControl(parent, placement), border_(border) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     contents_.size = Inside().size();
 }

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/Picture.h"
-#include "platform/Pressable.h"
+#include "platform/MouseControl.h"
 
 enum class DrawMode {
     CopyPen,  // a drawn pixel takes the pen's colour
@@ -40,7 +40,7 @@ struct PictureContents {
 };
 
 // The picture-box control. What is drawn on it stays until its picture is replaced or it is cleared.
-class PictureBox : public Pressable<QWidget> {
+class PictureBox : public MouseControl {
 public:
     // `border`: width of the sunken edge around the drawing area, in logical pixels.
     PictureBox(QWidget* parent, const Placement& placement, int border = 0);

@@ -1,23 +1,70 @@
 #pragma once
 
 #include <array>
-#include <functional>
+#include <concepts>
 #include <utility>
 
-#include "screen/Design.h"
+#include "platform/MouseControl.h"
 
-class QWidget;
+// Where one element of a control array stands.
+struct Spot {
+    QWidget* holder;
+    TwipsRect place;
+    const char* caption = "";
+};
 
-// The holder of each element of a control array.
-using Holders = std::function<QWidget*(int index)>;
+// The spots of `N` elements in `holder`, row by row in `columns` columns; `first` is that of the first
+// element, the others follow `stepX` to the right and `stepY` down.
+template <std::size_t N>
+std::array<Spot, N> Grid(QWidget* holder, const TwipsRect& first, int columns, Twips stepX, Twips stepY) {
+    std::array<Spot, N> spots{};
+    for (int i = 0; i < int(N); ++i)
+        spots[std::size_t(i)] = {
+            holder,
+            {first.left + i % columns * stepX, first.top + i / columns * stepY, first.width, first.height}};
+    return spots;
+}
 
-// A control array: `N` controls called `name`, each at its designed place. The elements are built in place,
-// since controls can neither be copied nor moved.
-template <class ControlType, std::size_t N, class... More>
-std::array<ControlType, N> ControlArray(const char* name, const Holders& holder, More... more) {
-    return [&]<std::size_t... I>(std::index_sequence<I...>) {
-        return std::array<ControlType, N>{
-            ControlType(holder(static_cast<int>(I)), Design(name, static_cast<int>(I)), more...)...};
+// A control array: `N` controls that share a name and have a number, with which the model's integers index
+// them. They are built in place, since controls can neither be copied nor moved.
+template <class ControlType, std::size_t N>
+class ControlArray {
+public:
+    // `more`: what else the constructor of a control wants.
+    template <class... More>
+    ControlArray(const char* name, const std::array<Spot, N>& spots, More... more)
+        : controls_(Build(name, spots, std::make_index_sequence<N>(), more...)) {}
+
+    // index: 0 .. N - 1.
+    ControlType& operator[](std::integral auto index) { return controls_[static_cast<std::size_t>(index)]; }
+    const ControlType& operator[](std::integral auto index) const {
+        return controls_[static_cast<std::size_t>(index)];
     }
-    (std::make_index_sequence<N>());
+    static constexpr std::int16_t size() { return N; }
+    auto begin() { return controls_.begin(); }
+    auto end() { return controls_.end(); }
+    auto begin() const { return controls_.begin(); }
+    auto end() const { return controls_.end(); }
+
+private:
+    template <std::size_t... I, class... More>
+    static std::array<ControlType, N> Build(const char* name, const std::array<Spot, N>& spots,
+                                            std::index_sequence<I...>, More... more) {
+        return {ControlType(spots[I].holder,
+                            {QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(I), spots[I].place,
+                             QString::fromLatin1(spots[I].caption)},
+                            more...)...};
+    }
+
+    std::array<ControlType, N> controls_;
+};
+
+// Makes `handler` of `form` hear the mouse over each element, with the element's number.
+template <class ControlType, std::size_t N, class Form>
+void OnEach(ControlArray<ControlType, N>& controls, std::type_identity_t<MouseHandler ControlType::*> event,
+            Form& form, void (Form::*handler)(std::int16_t, std::int16_t, std::int16_t, float, float)) {
+    for (std::int16_t index = 0; index < controls.size(); ++index)
+        controls[index].*event = [&form, handler, index](const MouseInput& in) {
+            (form.*handler)(index, in.button, in.shift, in.x, in.y);
+        };
 }

@@ -4,6 +4,7 @@
 
 #include "screen/DemoScript.h"
 #include "screen/Narrator.h"
+#include "screen/frmGame.h"
 
 using namespace std::chrono_literals;
 
@@ -28,7 +29,8 @@ void frmGame::RunDemo() {
     StopDemo = false;
     for (PictureBox& cell : picMat) cell.Enabled(false);
     Show(picMat[kStartCell], PicClip1.Cell(DemoScriptCards[0]));
-    Show(picPreview, PicClip1.Cell(DemoScriptCards[1]));
+    formFunc_.ShowNextCard(DemoScriptCards[1]);
+    picPreview.Refresh();
     Game().CurrentCard(DemoScriptCards[0]);
     world_.time.Wait(kFirstPause);
     std::size_t turn = 0;
@@ -51,10 +53,11 @@ void frmGame::DemoLock(std::size_t step, std::size_t turn) {
     picMat_MouseUp(kDemoLock, kLeftButton, 0, 0, 0);
     Show(picMat[kStartCell], {});
     world_.time.ProcessEvents();
-    picMat[static_cast<std::size_t>(DemoScriptMoves[step - 1])].Refresh();
+    picMat[DemoScriptMoves[step - 1]].Refresh();
     picPreview.Picture({});
     if (turn + 1 >= DemoScriptCards.size()) return Show(picMat[kStartCell], PicClip1.Cell(kCoverKind));
-    Show(picPreview, PicClip1.Cell(DemoScriptCards[turn + 1]));
+    formFunc_.ShowNextCard(DemoScriptCards[turn + 1]);
+    picPreview.Refresh();
     Game().CurrentCard(DemoScriptCards[turn]);
 }
 
@@ -62,13 +65,13 @@ void frmGame::DemoMove(std::size_t step) {
     world_.time.ProcessEvents();
     const std::int16_t cell = DemoScriptMoves[step];
     picMat_MouseMove(cell, 0, 0, 0, 0);
-    picMat[static_cast<std::size_t>(cell)].Refresh();
-    if (step > 0 && DemoScriptMoves[step - 1] != kDemoLock)
-        picMat[static_cast<std::size_t>(DemoScriptMoves[step - 1])].Refresh();
+    picMat[cell].Refresh();
+    if (step > 0 && DemoScriptMoves[step - 1] != kDemoLock) picMat[DemoScriptMoves[step - 1]].Refresh();
 }
 
 void frmGame::EndDemo() {
     for (PictureBox& cell : picMat) Show(cell, PicClip1.Cell(kCoverKind));
+    boardCovered = true;
     for (Timer* timer : {&Timer1, &Timer2, &Timer3}) timer->Enabled(false);
 }
 

@@ -1,7 +1,6 @@
 // How the board is drawn. picTemp holds what lies under the active card: a move gives it back to the cell
 // that is left, then takes the picture of the cell that is entered.
 
-#include <array>
 #include <cassert>
 
 #include "screen/frmGame.h"
@@ -18,7 +17,7 @@ constexpr int kFrameWidth = 3;
 PictureBox& Cell(frmGame& form, std::int16_t cell) {
     const bool onBoard = cell >= 0 && cell < kCells;
     assert(onBoard);
-    return form.picMat[static_cast<std::size_t>(onBoard ? cell : kStartCell)];
+    return form.picMat[onBoard ? cell : kStartCell];
 }
 
 }  // namespace
@@ -37,6 +36,15 @@ void mdlFormFunc::DrawCardOverCard(std::int16_t cell) {
     KeepAside(cell);
     ShowCard(cell, form_.Game().CurrentCard());
     ShadeActiveCell();
+}
+
+void mdlFormFunc::ShowActiveCard() {
+    const std::int16_t active = form_.Game().PosCurrentCard();
+    if (form_.Game().CheckForCard())
+        DrawCardOverCard(active);
+    else
+        ShowCard(active, form_.Game().CurrentCard());
+    DrawActiveFrame(active);
 }
 
 void mdlFormFunc::MoveActiveCard(std::int16_t newCell, std::int16_t oldCell) {
@@ -60,6 +68,7 @@ void mdlFormFunc::ResetBoardScreen() {
         cell.Picture({});
         cell.DrawMode(DrawMode::MaskPen);
     }
+    form_.boardCovered = false;
     KeepNothingAside();
     game.NextCard(kCardKinds);
     game.CurrentCard(game.DrawKind());
@@ -103,6 +112,7 @@ void mdlFormFunc::KeepNothingAside() {
 }
 
 void mdlFormFunc::ShowNextCard(std::int16_t kind) {
+    form_.nextCardShown = kind;
     form_.picPreview.Picture(form_.PicClip1.Cell(kind));
 }
 
@@ -115,4 +125,5 @@ void mdlFormFunc::CoverBoard() {
         cell.Picture(cover);
         form_.Game().PlaySoundFromFile("\\wav\\space.wav");
     }
+    form_.boardCovered = true;
 }

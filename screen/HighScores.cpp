@@ -3,6 +3,7 @@
 #include <QLocale>
 
 #include "screen/HighScoreTable.h"
+#include "screen/Narrator.h"
 #include "screen/frmGame.h"
 
 void mdlFormFunc::InitHighScoreTable() {
@@ -10,15 +11,20 @@ void mdlFormFunc::InitHighScoreTable() {
 }
 
 void mdlFormFunc::GameOver() {
-    form_.Game().RndAction(true);
-    form_.play = frmGame::Play::Off;
+    form_.SetPlay(frmGame::Play::Off);
     CoverBoard();
     ShowNextCard(kCoverKind);
     KeepNothingAside();
     form_.Timer1.Enabled(false);
     form_.Timer2.Enabled(false);
     form_.prbTime.Value(0);
+    form_.TellEnd();
     if (RowForScore(form_.lblScore.Caption())) form_.AskForName();
+}
+
+void frmGame::TellEnd() {
+    TellTimedLock();
+    narrator_->Add(QStringLiteral("Game over. %1.").arg(lblScore.access.name()));
 }
 
 void frmGame::AskForName() {
@@ -48,8 +54,8 @@ void frmGame::EnableMenu(bool enabled) {
 }
 
 void frmGame::ShowScores() {
-    for (std::size_t row = 0; row < lblName.size(); ++row) {
-        const HighScore stored = StoredHighScore(static_cast<int>(row));
+    for (int row = 0; row < kHighScores; ++row) {
+        const HighScore stored = StoredHighScore(row);
         lblName[row].Caption(stored.name);
         lblDate[row].Caption(stored.date);
         lblHighScore[row].Caption(stored.score);

@@ -67,7 +67,6 @@ void frmGame::OrderControls() {
 
 // Only the slots that hold a skin take the keyboard.
 void frmGame::OrderSkinSlots() {
-    for (std::size_t slot = 0; slot < picSkin.size(); ++slot)
-        picSkin[slot].setFocusPolicy(static_cast<std::int16_t>(slot) < SkinCount ? Qt::TabFocus
-                                                                                 : Qt::NoFocus);
+    for (std::int16_t slot = 0; slot < picSkin.size(); ++slot)
+        picSkin[slot].setFocusPolicy(slot < SkinCount ? Qt::TabFocus : Qt::NoFocus);
 }

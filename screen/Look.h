@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QFont>
 
 #include "platform/Colour.h"
@@ -20,6 +21,8 @@ inline constexpr Colour kNumber = 0xA8DCF4;     // score and cards left: pale br
 inline constexpr Colour kFloor = 0x2E160D;      // of the recess that holds the screens
 inline constexpr Colour kWell = 0xC4D6DC;       // the recesses that hold levels and skins
 inline constexpr Colour kEmptySlot = 0xD6E4EA;  // a slot without a skin
+inline const QColor kBrass(0xC9, 0xA2, 0x4B), kDarkBrass(0x8A, 0x66, 0x1E);
+inline const QColor kRule(0xB8, 0x9A, 0x5A);  // lines of a table, edges of keys
 
 // Three sizes: a heading is as large as other text, but heavier. Sizes are in logical pixels; figures are
 // tabular.

@@ -45,10 +45,9 @@ void frmGame::imgButton_Click(std::int16_t Index) {
 
 // The screen that stays is not hidden in between, for it would lose the keyboard.
 void frmGame::ShowScreen(std::int16_t index) {
-    const auto shown = static_cast<std::size_t>(index);
-    for (std::size_t i = 0; i < fraScreen.size(); ++i)
-        if (i != shown) fraScreen[i].Visible(false);
-    fraScreen[shown].Visible(true);
+    for (std::int16_t i = 0; i < fraScreen.size(); ++i)
+        if (i != index) fraScreen[i].Visible(false);
+    fraScreen[index].Visible(true);
 }
 
 QString frmGame::RunAction(std::int16_t menu) {
@@ -76,8 +75,7 @@ QString frmGame::StartGame() {
     FinishSkinSlots();
     for (PictureBox& cell : picMat) cell.Enabled(true);
     if (QString failure = LoadSkin(); !failure.isEmpty()) {
-        play = Play::Off;
-        Game().RndAction(true);  // nothing is dealt: the board takes no keys until a game starts
+        SetPlay(Play::Off);  // nothing is dealt: the board takes no keys until a game starts
         return failure;
     }
     prbTime.Value(0);
@@ -89,8 +87,7 @@ QString frmGame::StartGame() {
     lblSerieScore.Caption(QStringLiteral("0"));
     lblCardsLeft.Caption(QString::number(kCardsInGame));
     Game().NewGame();
-    Game().RndAction(false);
-    play = Play::On;
+    SetPlay(Play::On);
     lblCardsLeft.Visible(true);
     setFocus();  // the board takes the keys, whatever had them
     recording_.NewGame(Game().CurrentCard());
@@ -111,20 +108,19 @@ void frmGame::ShowHelp() {
 // The high scores light no caption; the one lit before is remembered, and comes back with another button.
 void frmGame::Highlight(std::int16_t menu) {
     if (menu != kScores && menu == CurrentMenu) return;
-    lblCaption[static_cast<std::size_t>(CurrentMenu)].ForeColor(kWhite);
+    lblCaption[CurrentMenu].ForeColor(kWhite);
     if (menu == kScores) return;
-    lblCaption[static_cast<std::size_t>(menu)].ForeColor(Look::kLitCaption);
+    lblCaption[menu].ForeColor(Look::kLitCaption);
     CurrentMenu = menu;
 }
 
 void frmGame::lblClass_Click(std::int16_t Index) {
     if (Index < 0 || Index >= kLevels) return;
-    const auto level = static_cast<std::size_t>(Index);
-    lblClass[static_cast<std::size_t>(CurrentLevel)].ForeColor(Look::kLevel);
-    lblClass[level].ForeColor(kRed);
-    shpLevel.Top(lblClass[level].Top() - kTwipsPerPixel);
-    lblLevelName.Caption(lblClass[level].Caption());
-    lblLevelBack.Caption(lblClass[level].Caption());
+    lblClass[CurrentLevel].ForeColor(Look::kLevel);
+    lblClass[Index].ForeColor(kRed);
+    shpLevel.Top(lblClass[Index].Top() - kTwipsPerPixel);
+    lblLevelName.Caption(lblClass[Index].Caption());
+    lblLevelBack.Caption(lblClass[Index].Caption());
     CurrentLevel = Index;
     Game().SetLevel(Index);
     mdlSound::PlayWave(mdlSound::Wave(102));
@@ -134,7 +130,7 @@ void frmGame::lblClass_Click(std::int16_t Index) {
 
 void frmGame::lblClass_MouseMove(std::int16_t Index, std::int16_t, std::int16_t, float, float) {
     if (Index == HoverLevel || Index < 0 || Index >= kLevels) return;
-    const Label& label = lblClass[static_cast<std::size_t>(Index)];
+    const Label& label = lblClass[Index];
     Shape1.Left(label.Left() - 2 * Shape1.Width());
     Shape1.Top(label.Top() + Shape1.Height() / 2);
     HoverLevel = Index;

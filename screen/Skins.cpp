@@ -21,9 +21,9 @@ void DrawFrame(PictureBox& slot, Colour colour) {
 void frmGame::FillSkinSlots() {
     SkinCount = 0;
     for (const QString& file : world_.folder.Files(kSkinFolder)) {
-        if (static_cast<std::size_t>(SkinCount) == skinFile.size()) break;
+        if (SkinCount == picSkin.size()) break;
         if (!WhyNotASheet(world_.folder.Path(kSkinFolder + file)).isEmpty()) continue;
-        skinFile[static_cast<std::size_t>(SkinCount)] = file;
+        skinFile[SkinCount] = file;
         ++SkinCount;
     }
     picSkin_MouseUp(0, 0, 0, 0, 0);
@@ -34,12 +34,12 @@ void frmGame::FinishSkinSlots() {
     if (skinsFinished_ || unloaded_) return;  // a window may be closed right after its first paint
     skinsFinished_ = true;
     for (std::int16_t slot = 0; slot < SkinCount;) {
-        const QString path = world_.folder.Path(kSkinFolder + skinFile[static_cast<std::size_t>(slot)]);
+        const QString path = world_.folder.Path(kSkinFolder + skinFile[slot]);
         if (!PicClipTemp.Load(path).isEmpty()) {
             CloseUpSlot(slot);
             continue;
         }
-        picSkin[static_cast<std::size_t>(slot)].PaintPicture(PicClipTemp.Thumbnail(), kThumbnailCorner);
+        picSkin[slot].PaintPicture(PicClipTemp.Thumbnail(), kThumbnailCorner);
         PicClipTemp = {};  // the other cards of a skin are not needed for its slot
         ++slot;
     }
@@ -51,25 +51,24 @@ void frmGame::FinishSkinSlots() {
 // use.
 void frmGame::FillSlot(std::int16_t slot, const QString& file) {
     if (!PicClipTemp.Load(world_.folder.Path(kSkinFolder + file)).isEmpty()) return;
-    skinFile[static_cast<std::size_t>(slot)] = file;
-    PictureBox& box = picSkin[static_cast<std::size_t>(slot)];
+    skinFile[slot] = file;
+    PictureBox& box = picSkin[slot];
     box.Clear();
     box.PaintPicture(PicClipTemp.Thumbnail(), kThumbnailCorner);
     PicClipTemp = {};
-    if (slot >= SkinCount && static_cast<std::size_t>(SkinCount) < picSkin.size()) ++SkinCount;
+    if (slot >= SkinCount && SkinCount < picSkin.size()) ++SkinCount;
     OrderSkinSlots();
 }
 
 void frmGame::picSkin_OLEDragDrop(std::int16_t& Index, const QString& Data, std::int32_t&, std::int16_t,
                                   std::int16_t, float, float) {
-    if (Index < 0 || static_cast<std::size_t>(Index) >= picSkin.size()) return;
+    if (Index < 0 || Index >= picSkin.size()) return;
     FinishSkinSlots();
     Index = std::min(Index, SkinCount);
     const QString folder = world_.folder.Path(kSkinFolder);
     QString name = NameInFolder(Data, folder);
-    if (const auto known = std::find(skinFile.begin(), skinFile.end(), name);
-        !name.isEmpty() && known != skinFile.end())
-        Index = static_cast<std::int16_t>(known - skinFile.begin());
+    if (const qsizetype known = name.isEmpty() ? -1 : skinFile.indexOf(name); known >= 0)
+        Index = static_cast<std::int16_t>(known);
     else if (name.isEmpty() && (name = Install(Data, folder, Index)).isEmpty())
         return;
     FillSlot(Index, name);
@@ -85,22 +84,22 @@ QString frmGame::Install(const QString& dropped, const QString& folder, std::int
     if (slot < SkinCount &&
         !world_.dialogs.Ask(this, QStringLiteral("Are You Sure You want To Replace This Skin !")))
         return {};
-    const QString replaced = slot < SkinCount ? skinFile[static_cast<std::size_t>(slot)] : QString();
+    const QString replaced = slot < SkinCount ? skinFile[slot] : QString();
     const InstalledSkin installed = InstallSkin(dropped, folder, replaced);
     if (!installed.problem.isEmpty()) world_.dialogs.Tell(this, installed.problem);
     return installed.name;
 }
 
 void frmGame::CloseUpSlot(std::int16_t slot) {
-    std::move(skinFile.begin() + slot + 1, skinFile.end(), skinFile.begin() + slot);
-    skinFile.back().clear();
+    skinFile.removeAt(slot);
+    skinFile.append(QString());
     --SkinCount;
 }
 
 void frmGame::picSkin_MouseMove(std::int16_t Index, std::int16_t, std::int16_t, float, float) {
     if (Index < 0 || Index >= SkinCount || Index == HoverSkin) return;
-    DrawFrame(picSkin[static_cast<std::size_t>(HoverSkin)], kWhite);
-    DrawFrame(picSkin[static_cast<std::size_t>(Index)], kRed);
+    DrawFrame(picSkin[HoverSkin], kWhite);
+    DrawFrame(picSkin[Index], kRed);
     HoverSkin = Index;
     mdlSound::PlayWave(mdlSound::Wave(104));
 }
@@ -112,9 +111,9 @@ void frmGame::picSkin_MouseUp(std::int16_t Index, std::int16_t, std::int16_t, fl
 }
 
 void frmGame::ChooseSkin(std::int16_t slot) {
-    const QString& file = skinFile[static_cast<std::size_t>(slot)];
-    PictureBox& box = picSkin[static_cast<std::size_t>(slot)];
-    DrawFrame(picSkin[static_cast<std::size_t>(CurrentSkin)], kWhite);
+    const QString& file = skinFile[slot];
+    PictureBox& box = picSkin[slot];
+    DrawFrame(picSkin[CurrentSkin], kWhite);
     Game().SetSkinPicture(file.toStdString());
     picCurrSkin.Clear();
     picCurrSkin.PaintPicture(box.Image(), kChosenCorner);

@@ -5,13 +5,16 @@
 #include "model/Levels.h"
 #include "model/SaturatedSum.h"
 #include "screen/Narrator.h"
+#include "screen/Words.h"
+#include "screen/frmGame.h"
 #include "shell/mdlSound.h"
 
 namespace {
 
 constexpr std::int16_t kKeyEscape = 27;
-constexpr std::int16_t kKeyPause = 80;  // the letter P, small or capital
-constexpr std::int32_t kBarTicks = 50;  // ticks of the time bar in a lock time
+constexpr std::int16_t kKeyPause = 80;    // the letter P, small or capital
+constexpr std::int32_t kBarTicks = 50;    // ticks of the time bar in a lock time
+constexpr std::int32_t kRunningOut = 75;  // percent of it that are told
 
 // The nearest whole number to the lock time divided by the bar's ticks, ties to the even one.
 int BarInterval(int lockTime) {
@@ -73,69 +76,79 @@ void frmGame::picMat_MouseDown(std::int16_t, std::int16_t Button, std::int16_t, 
 
 // The first card of a game has no limit: its timers are off, and a resume leaves them so.
 void frmGame::Pause() {
-    play = Play::Paused;
+    SetPlay(Play::Paused);
     timersPaused_ = Timer1.Enabled();
-    Game().RndAction(true);
     Timer1.Enabled(false);
     Timer2.Enabled(false);
     prbTime.Value(0);
     formFunc_.CoverBoard();
+    narrator_->Add(QStringLiteral("Paused."));
 }
 
 void frmGame::Resume() {
-    play = Play::On;
-    Game().RndAction(false);
+    SetPlay(Play::On);
+    boardCovered = false;
     Timer1.Enabled(timersPaused_);
     Timer2.Enabled(timersPaused_);
     prbTime.Value(0);
     for (std::int16_t cell = 0; cell < kCells; ++cell) {
-        const CardInfo& card = Game().CardAt(cell);
-        if (card.Quantity == kNoCard) {
+        if (!IsOccupied(cell)) {
             formFunc_.ClearPicture(cell);
             continue;
         }
-        formFunc_.ShowCard(cell, card.Number);
+        formFunc_.ShowCard(cell, Game().CardAt(cell).Number);
         Game().PlaySoundFromFile("\\wav\\space.wav");
     }
-    const std::int16_t active = Game().PosCurrentCard();
-    if (Game().CheckForCard())
-        formFunc_.DrawCardOverCard(active);
-    else
-        formFunc_.ShowCard(active, Game().CurrentCard());
-    formFunc_.DrawActiveFrame(active);
+    formFunc_.ShowActiveCard();
+    narrator_->Add(QStringLiteral("The game goes on."));
 }
 
 void frmGame::Timer1_Timer() {
     Game().RndAction(true);
     GiveBackActiveCell();
-    narrator_->TimeIsUp();
+    timeIsUp_ = true;
     Game().PutInRndPlace();
+    TellTimedLock();
     if (play == Play::On) Game().RndAction(false);
+}
+
+// Told where the card is, unless it has completed a line or was an eraser.
+void frmGame::TellTimedLock() {
+    if (!std::exchange(timeIsUp_, false)) return;
+    const std::int16_t cell = Game().PosCurrentCard();
+    narrator_->Add(IsOccupied(cell) ? QStringLiteral("Time is up: locked in %1.").arg(PlaceInWords(cell))
+                                    : QStringLiteral("Time is up."));
 }
 
 void frmGame::GiveBackActiveCell() {
     const std::int16_t active = Game().PosCurrentCard();
     formFunc_.ClearDrawings(active);
     const bool overCard = Game().CheckForCard();
-    picMat[static_cast<std::size_t>(active)].Picture(overCard ? picTemp.Picture() : Picture());
+    picMat[active].Picture(overCard ? picTemp.Picture() : Picture());
+}
+
+void frmGame::TellLock() {
+    TellTimedLock();
+    if (const std::int32_t points = Game().SerieScore())
+        narrator_->Add(QStringLiteral("Line scored: %1 points.").arg(QLocale().toString(points)));
 }
 
 void frmGame::Timer2_Timer() {
-    if (const std::int32_t step = BarStep(Game().SetLevel())) prbTime.Value(prbTime.Value() + step);
+    const std::int32_t before = prbTime.Value(), step = BarStep(Game().SetLevel());
+    if (step > 0) prbTime.Value(before + step);
+    if (before < kRunningOut && prbTime.Value() >= kRunningOut)
+        narrator_->Add(QStringLiteral("A quarter of the time bar is left."));
     if (prbTime.Value() == prbTime.Bar().Max()) Timer2.Rest();
 }
 
 void mdlFormFunc::StartNextTurn() {
     clsCard& game = form_.Game();
+    form_.TellLock();
     KeepAside(kStartCell);
     ClearDrawings(game.PosCurrentCard());
     game.PosCurrentCard(kStartCell);
     game.CurrentCard(game.NextCard());
-    if (game.CheckForCard())
-        DrawCardOverCard(kStartCell);
-    else
-        ShowCard(kStartCell, game.CurrentCard());
-    DrawActiveFrame(kStartCell);
+    ShowActiveCard();
     game.NextCard(kCardKinds);
     ShowNextCard(game.NextCard());
     form_.lblScore.Caption(QLocale().toString(game.Score()));

@@ -7,34 +7,31 @@
 
 #include "screen/Look.h"
 #include "screen/Narrator.h"
+#include "screen/Words.h"
 #include "screen/frmInfo.h"
 #include "shell/mdlSound.h"
 
-namespace {
-
-// Binds a handler of a control array to each of its elements.
-template <class Array, class Handler>
-void OnEach(Array& controls,
-            std::function<void(const MouseInput&)> std::decay_t<decltype(controls[0])>::*slot, frmGame* form,
-            Handler handler) {
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-        const auto index = static_cast<std::int16_t>(i);
-        controls[i].*slot = [form, handler, index](const MouseInput& in) {
-            (form->*handler)(index, in.button, in.shift, in.x, in.y);
-        };
-    }
-}
-
-}  // namespace
-
-frmGame::frmGame(World world) : world_(std::move(world)) {
+frmGame::frmGame(World world)
+    : WindowControls(this),
+      BoardControls(this),
+      ChoiceControls(&fraScreen[1]),
+      HelpControls(&fraScreen[2]),
+      ScoreControls(&fraScreen[3]),
+      MenuControls(this, &fraScreen[2]),
+      NameControls(this),
+      world_(std::move(world)) {
     setObjectName(QStringLiteral("frmGame"));
     setWindowTitle(QStringLiteral("Tesselor"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
-    DressControls();
-    ConnectControls();
-    DescribeControls();
+    access = {QAccessible::Window, Fixed("Tesselor")};
+    ConnectWindow(*this);
+    ConnectBoard(*this);
+    ConnectChoices(*this);
+    ConnectHelp(*this);
+    ConnectScores(*this);
+    ConnectMenu(*this);
+    ConnectNameEntry(*this);
     OrderControls();
     Form_Load();
     narrator_ = std::make_unique<Narrator>(*this);
@@ -52,7 +49,7 @@ void frmGame::Form_Load() {
         QStringLiteral("Line up cards by : color, shape, quantity or series \r\n"
                        "1,2,3,4. For high score make multiple combinations"));
     game_ = std::make_unique<clsCard>(formFunc_, world_.random);
-    Game().RndAction(true);  // until "play" there is nothing to move
+    SetPlay(Play::Off);  // until "play" there is nothing to move
     FillSkinSlots();
     LayScreens();
     fraScreen[2].Visible(true);
@@ -90,36 +87,17 @@ void frmGame::Form_Unload(std::int16_t& /*Cancel*/) {
     if (!demoRuns_) game_.reset();
 }
 
-void frmGame::ConnectControls() {
-    OnEach(picMat, &PictureBox::onMouseDown, this, &frmGame::picMat_MouseDown);
-    OnEach(picMat, &PictureBox::onMouseUp, this, &frmGame::picMat_MouseUp);
-    OnEach(picMat, &PictureBox::onMouseMove, this, &frmGame::picMat_MouseMove);
-    OnEach(picSkin, &PictureBox::onMouseUp, this, &frmGame::picSkin_MouseUp);
-    OnEach(picSkin, &PictureBox::onMouseMove, this, &frmGame::picSkin_MouseMove);
-    OnEach(imgButton, &Image::onMouseDown, this, &frmGame::imgButton_MouseDown);
-    OnEach(imgButton, &Image::onMouseUp, this, &frmGame::imgButton_MouseUp);
-    OnEach(lblClass, &Label::onMouseMove, this, &frmGame::lblClass_MouseMove);
-    for (std::int16_t i = 0; i < 5; ++i) {
-        imgButton[static_cast<std::size_t>(i)].onClick = [this, i] { imgButton_Click(i); };
-        lblClass[static_cast<std::size_t>(i)].onClick = [this, i] { lblClass_Click(i); };
-    }
-    for (std::size_t i = 0; i < picSkin.size(); ++i)
-        picSkin[i].OnFileDrop([this, i](const QString& path) {
-            auto index = static_cast<std::int16_t>(i);
-            std::int32_t effect = 0;
-            picSkin_OLEDragDrop(index, path, effect, 0, 0, 0, 0);
-        });
-    Image1.onClick = [this] { Image1_Click(); };
-    imgMinimaize.onClick = [this] { imgMinimaize_Click(); };
-    imgWebLink.onClick = [this] { imgWebLink_Click(); };
-    Label14.onClick = [this] { Label14_Click(); };
-    Label4.onClick = [this] { Label4_Click(); };
-    Label17.onClick = [this] { Label17_Click(); };
-    connect(&cmdHelp, &QPushButton::clicked, this, &frmGame::cmdHelp_Click);
-    connect(&cmdDemo, &QPushButton::clicked, this, &frmGame::cmdDemo_Click);
-    connect(&cmdPrint, &QPushButton::clicked, this, &frmGame::cmdPrint_Click);
-    connect(&cmdOk, &QPushButton::clicked, this, &frmGame::cmdOk_Click);
-    connect(&txtName, &QLineEdit::returnPressed, this, &frmGame::cmdOk_Click);
+void frmGame::SetPlay(Play now) {
+    play = now;
+    Game().RndAction(now != Play::On);
+}
+
+bool frmGame::IsOccupied(std::int16_t cell) const {
+    return game_ && game_->CardAt(cell).Quantity != kNoCard;
+}
+
+std::int16_t frmGame::ActiveCell() const {
+    return game_ && play == Play::On ? game_->PosCurrentCard() : std::int16_t{-1};
 }
 
 void frmGame::Form_MouseDown(std::int16_t Button, std::int16_t, float X, float Y) {

@@ -6,20 +6,18 @@
 #include <memory>
 
 #include "model/clsCard.h"
-#include "platform/Button.h"
-#include "platform/Frame.h"
-#include "platform/Image.h"
 #include "platform/KeyboardFocus.h"
-#include "platform/Label.h"
-#include "platform/LineLabel.h"
-#include "platform/PictureBox.h"
 #include "platform/PictureClip.h"
-#include "platform/Shape.h"
 #include "platform/Timer.h"
-#include "screen/ControlArray.h"
 #include "screen/Recording.h"
-#include "screen/TimeBar.h"
 #include "screen/World.h"
+#include "screen/controls/BoardControls.h"
+#include "screen/controls/ChoiceControls.h"
+#include "screen/controls/HelpControls.h"
+#include "screen/controls/MenuControls.h"
+#include "screen/controls/NameControls.h"
+#include "screen/controls/ScoreControls.h"
+#include "screen/controls/WindowControls.h"
 #include "screen/mdlFormFunc.h"
 #include "shell/WindowShape.h"
 
@@ -30,10 +28,19 @@ class frmInfo;
 // same place. Its handlers are public and callable directly, with made-up arguments too: an index outside a
 // control array does nothing, unless the handler says otherwise.
 //
-// The handlers are in one file a subject: Menu, TurnCycle, Skins, HighScores, Demo, Help, Keyboard; what the
-// model asks for is in mdlFormFunc (Drawing), what assistive technology reads in Spoken and Narrator. This
-// file's own source builds the window and runs its set-up.
-class frmGame final : public QWidget, public HasAccess {
+// Its controls are in screen/controls, a part of the window each: where they stand, how they look, what they
+// say to a screen reader and what they call here. The handlers are in one file a subject: Menu, TurnCycle,
+// Skins, HighScores, Demo, Help, Keyboard; what the model asks for is in mdlFormFunc (Drawing, TurnCycle).
+// What is created later lies above: the order of the bases is that of the layers.
+class frmGame final : public QWidget,
+                      public HasAccess,
+                      public WindowControls,
+                      public BoardControls,
+                      public ChoiceControls,
+                      public HelpControls,
+                      public ScoreControls,
+                      public MenuControls,
+                      public NameControls {
 public:
     // Builds the window and runs Form_Load. Nothing is shown yet.
     explicit frmGame(World world);
@@ -105,98 +112,40 @@ public:
     void Form_MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y);
     void Form_MouseMove(std::int16_t, std::int16_t, float, float) {}
 
+    // The model, from Form_Load to Form_Unload.
     [[nodiscard]] clsCard& Game() { return *game_; }
+    [[nodiscard]] const clsCard& Game() const { return *game_; }
     [[nodiscard]] World& TheWorld() { return world_; }
 
     // What a game is doing, as far as the screen goes.
     enum class Play { Off, On, Paused };
     Play play = Play::Off;
+    bool boardCovered = false;        // by the cover picture, in a pause and after a game
+    std::int16_t nextCardShown = -1;  // its kind
+    // Takes input for the board only while a game is on.
+    void SetPlay(Play now);
+
+    // Tell assistive technology of a lock (where the time put the card, the points of a line) and of the end.
+    void TellLock();
+    void TellEnd();
+
+    // What the board shows: whether a locked card lies in `cell`, whether the active card is there, and in
+    // which cell that is, -1 for none.
+    [[nodiscard]] bool IsOccupied(std::int16_t cell) const;
+    [[nodiscard]] bool IsActive(std::int16_t cell) const { return cell >= 0 && cell == ActiveCell(); }
+    [[nodiscard]] std::int16_t ActiveCell() const;
 
     bool StopDemo = false;         // request to end a running demonstration
     std::int16_t CurrentMenu = 2;  // index of the highlighted caption
     std::int16_t CurrentLevel = 0, HoverLevel = 0;
     std::int16_t SkinCount = 0, CurrentSkin = 0, HoverSkin = 0;
-    std::int16_t HoverCell = 0;        // the cell into which the mouse last moved the active card
-    std::array<QString, 12> skinFile;  // the file name of each slot
+    std::int16_t HoverCell = 0;              // the cell into which the mouse last moved the active card
+    QStringList skinFile = QStringList(12);  // the file name of each slot
 
 private:
     World world_;
 
-    static Holders Inside(QWidget& holder) {
-        return [&holder](int) { return &holder; };
-    }
-    // The menu's elements 0..3 are on the window, element 4 is inside the help screen.
-    Holders MenuHolder() {
-        return [this](int index) { return index == 4 ? &fraScreen[2] : static_cast<QWidget*>(this); };
-    }
-
 public:
-    // Controls; a holder stands before what it holds. What is created later lies above.
-    Image Background{this, {QStringLiteral("Background"), {0, 0, 5985, 6165}, {}}};
-    Label lblSerieScore{this, Design("lblSerieScore")}, lblCardsInMatrix{this, Design("lblCardsInMatrix")};
-    Label lblLevelBack{this, Design("lblLevelBack")}, lblLevelName{this, Design("lblLevelName")};
-    Label Label1{this, Design("Label1")}, Label2{this, Design("Label2")}, Label5{this, Design("Label5")};
-    Label lblHelp{this, Design("lblHelp")}, Label8{this, Design("Label8")}, Label9{this, Design("Label9")};
-    Label Label10{this, Design("Label10")}, Label11{this, Design("Label11")},
-        Label12{this, Design("Label12")};
-    Image Image3{this, Design("Image3")}, Image4{this, Design("Image4")};
-    Label Label16{this, Design("Label16")}, Label17{this, Design("Label17")};
-    Label lblCardsLeft{this, Design("lblCardsLeft")}, lblScore{this, Design("lblScore")};
-    Image Image1{this, Design("Image1")}, imgMinimaize{this, Design("imgMinimaize")};
-    Image imgWebLink{this, Design("imgWebLink")}, Image2{this, Design("Image2")};
-    Shape shpTime{this, Design("shpTime")}, shpRect{this, Design("shpRect")};
-    TimeBar prbTime{this, Design("prbTime"), TimeBarDesign()};
-    PictureBox Picture4{this, Design("Picture4")};
-    PictureBox picPreview{this, Design("picPreview"), 2};
-    Label lblNextCard{&picPreview, Design("lblNextCard")};
-    PictureBox picTemp{this, Design("picTemp"), 2};
-    CommandButton cmdPrint{this, Design("cmdPrint")};
-
-    std::array<Frame, 4> fraScreen = ControlArray<Frame, 4>("fraScreen", Inside(*this));
-    std::array<PictureBox, 16> picMat = ControlArray<PictureBox, 16>("picMat", Inside(fraScreen[0]), 2);
-
-    Label Label6{&fraScreen[1], Design("Label6")}, Label7{&fraScreen[1], Design("Label7")};
-    Frame Picture3{&fraScreen[1], Design("Picture3")}, Picture1{&fraScreen[1], Design("Picture1")};
-    Shape shpLevel{&Picture3, Design("shpLevel")};  // behind the chosen level
-    std::array<Label, 5> lblClass = ControlArray<Label, 5>("lblClass", Inside(Picture3));
-    Shape Shape1{&Picture3, Design("Shape1")};
-    std::array<PictureBox, 12> picSkin = ControlArray<PictureBox, 12>("picSkin", Inside(Picture1));
-    PictureBox picCurrSkin{&fraScreen[1], Design("picCurrSkin")};
-    Label lblSkinName{&fraScreen[1], Design("lblSkinName")};
-    Label Label13{&fraScreen[1], Design("Label13")}, Label14{&fraScreen[1], Design("Label14")};
-
-    Label lblHelpText1{&fraScreen[2], Design("lblHelpText1")};
-    std::array<Image, 3> imgMouse = ControlArray<Image, 3>("imgMouse", Inside(fraScreen[2]));
-    Label lblHelpText2{&fraScreen[2], Design("lblHelpText2")};
-    Label lblHelpText3{&fraScreen[2], Design("lblHelpText3")};
-    Label lblHelpText4{&fraScreen[2], Design("lblHelpText4")};
-    std::array<Shape, 3> shpKey = ControlArray<Shape, 3>("shpKey", Inside(fraScreen[2]));
-    std::array<Label, 3> lblKey = ControlArray<Label, 3>("lblKey", Inside(fraScreen[2]));
-    Image Picture2{&fraScreen[2], Design("Picture2")}, imgErasor{&fraScreen[2], Design("imgErasor")};
-    Label lblActiveCard{&fraScreen[2], Design("lblActiveCard")},
-        lblErasor{&fraScreen[2], Design("lblErasor")};
-    CommandButton cmdHelp{&fraScreen[2], Design("cmdHelp")}, cmdDemo{&fraScreen[2], Design("cmdDemo")};
-
-    Label lblCName{&fraScreen[3], Design("lblCName")}, lblCDate{&fraScreen[3], Design("lblCDate")};
-    Label lblCHighScore{&fraScreen[3], Design("lblCHighScore")};
-    std::array<LineLabel, 4> lblName = ControlArray<LineLabel, 4>("lblName", Inside(fraScreen[3]));
-    std::array<LineLabel, 4> lblDate = ControlArray<LineLabel, 4>("lblDate", Inside(fraScreen[3]));
-    std::array<LineLabel, 4> lblHighScore = ControlArray<LineLabel, 4>("lblHighScore", Inside(fraScreen[3]));
-    Shape Line2{&fraScreen[3], Design("Line2")}, Line4{&fraScreen[3], Design("Line4")};
-    Shape Line5{&fraScreen[3], Design("Line5")}, Line6{&fraScreen[3], Design("Line6")};
-    Shape Line7{&fraScreen[3], Design("Line7")};
-    Label Label15{&fraScreen[3], Design("Label15")}, Label4{&fraScreen[3], Design("Label4")};
-
-    std::array<Shape, 5> shpArea = ControlArray<Shape, 5>("shpArea", MenuHolder());
-    std::array<Label, 5> lblCaption = ControlArray<Label, 5>("lblCaption", MenuHolder());
-    std::array<Image, 5> imgButton = ControlArray<Image, 5>("imgButton", MenuHolder());
-
-    Frame picEnterName{this, Design("picEnterName")};
-    std::array<Shape, 2> shpEnterName = ControlArray<Shape, 2>("shpEnterName", Inside(picEnterName));
-    Label Label3{&picEnterName, Design("Label3")};
-    TextBox txtName{&picEnterName, Design("txtName")};
-    CommandButton cmdOk{&picEnterName, Design("cmdOk")};
-
     FocusRing focusRing{this};
 
     PictureClip PicClip1, PicClipTemp;
@@ -213,22 +162,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    // Fonts, colours and pictures (Dress.cpp).
-    void DressControls();
-    void DressWindow();
-    void DressBoard();
-    void DressSkinScreen();
-    void DressHelpScreen();
-    void DressScoreScreen();
-    void DressNameEntry();
-
-    // What the controls are in words (Spoken.cpp).
-    void DescribeControls();
-    void DescribeBoard();
-    void DescribeMenu();
-    void DescribeScreens();
-
-    void ConnectControls();
     void LayScreens();
 
     // Which controls take the keyboard, and in what order (Keyboard.cpp).
@@ -250,6 +183,7 @@ private:
     void Pause();
     void Resume();
     void GiveBackActiveCell();
+    void TellTimedLock();
     void RunDemo();
     void DemoLock(std::size_t step, std::size_t turn);
     void DemoMove(std::size_t step);
@@ -266,6 +200,7 @@ private:
     mdlFormFunc formFunc_{*this};
     std::unique_ptr<clsCard> game_;
     WindowMove move_;
+    bool timeIsUp_ = false;      // the lock that goes on is the time's, and not told yet
     bool timersPaused_ = false;  // the pause stopped running timers, so a resume starts them again
     bool skinsFinished_ = false;
     Recording recording_;

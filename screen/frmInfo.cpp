@@ -78,7 +78,7 @@ void frmInfo::DressControls() {
     Background.Picture(WindowArt(QStringLiteral("sheet")));
     Background.setAttribute(Qt::WA_TransparentForMouseEvents);
     DressText();
-    shpArea.Look(QColor(0xC9, 0xA2, 0x4B), QColor(0x1B, 0x2A, 0x4E), 6);
+    shpArea.Look(Look::kBrass, QColor(0x1B, 0x2A, 0x4E), 6);
     lblCaption.setFont(Look::Font(Look::Text::Heading));
     lblCaption.Alignment(Qt::AlignCenter);
     lblCaption.ForeColor(kWhite);

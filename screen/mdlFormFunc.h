@@ -14,16 +14,18 @@ public:
     // Drawing.cpp
     void DrawCardMove(std::int16_t newCell, std::int16_t oldCell) override;
     void DrawCardMoveOverCard(std::int16_t newCell, std::int16_t oldCell) override;
-    void DrawCardOverCard(std::int16_t cell) override;
+    void ShowActiveCard() override;
     void ResetBoardScreen() override;
     void ShowCard(std::int16_t cell, std::int16_t kind) override;
     void ClearPicture(std::int16_t cell) override;
     void ClearDrawings(std::int16_t cell) override;
-    void DrawActiveFrame(std::int16_t cell) override;
     void FlashCell(std::int16_t cell) override;
     void KeepAside(std::int16_t cell) override;
     void KeepNothingAside() override;
     void ShowNextCard(std::int16_t kind) override;
+    // The active card over the locked card of `cell`, and its red frame there.
+    void DrawCardOverCard(std::int16_t cell);
+    void DrawActiveFrame(std::int16_t cell);
     // Hides the board behind the cover picture, cell by cell; holds the window for 800 milliseconds.
     void CoverBoard();
 

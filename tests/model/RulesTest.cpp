@@ -103,8 +103,7 @@ struct Rules : Side {
         cell == 12 ? Tell("KeepNothingAside") : Tell("KeepAside", 12);
         Tell("ClearPicture", cell), cell = 12;
         Tell("ClearDrawings", 12), kind = next;
-        Taken() ? Tell("DrawCardOverCard", 12) : Tell("ShowCard", 12, kind);
-        Tell("DrawActiveFrame", 12), NextCard(39);
+        Tell("ShowActiveCard"), NextCard(39);
         Tell("ShowNextCard", next), Tell("PlayWave", 101), Tell("ShowCardsLeft", sum - used), RestartTimers();
     }
     void TakeLines() {

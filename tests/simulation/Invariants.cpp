@@ -6,7 +6,7 @@
 #include "model/Levels.h"
 #include "screen/Look.h"
 #include "screen/ScoreText.h"
-#include "screen/Spoken.h"
+#include "screen/Words.h"
 #include "tests/simulation/Simulation.h"
 
 namespace {

@@ -15,11 +15,10 @@ public:
 
     void DrawCardMove(std::int16_t to, std::int16_t from) override { Saw("DrawCardMove", to, from); }
     void DrawCardMoveOverCard(std::int16_t to, std::int16_t from) override { Saw("MoveOverCard", to, from); }
-    void DrawCardOverCard(std::int16_t cell) override { Saw("DrawCardOverCard", cell); }
+    void ShowActiveCard() override { Saw("ShowActiveCard"); }
     void ShowCard(std::int16_t cell, std::int16_t kind) override { Saw("ShowCard", cell, kind); }
     void ClearPicture(std::int16_t cell) override { Saw("ClearPicture", cell); }
     void ClearDrawings(std::int16_t cell) override { Saw("ClearDrawings", cell); }
-    void DrawActiveFrame(std::int16_t cell) override { Saw("DrawActiveFrame", cell); }
     void FlashCell(std::int16_t cell) override { Saw("FlashCell", cell); }
     void KeepAside(std::int16_t cell) override { Saw("KeepAside", cell); }
     void KeepNothingAside() override { Saw("KeepNothingAside"); }

@@ -1,0 +1,29 @@
+#include "screen/controls/BoardControls.h"
+
+#include "screen/Look.h"
+#include "screen/Words.h"
+#include "screen/frmGame.h"
+
+BoardControls::BoardControls(QWidget* window)
+    : fraScreen("fraScreen", {{{window, {750, 900, 3945, 3945}},
+                               {window, {7140, 7800, 3915, 3915}, "Frame2"},
+                               {window, {11190, 7800, 3915, 3915}, "Frame2"},
+                               {window, {15240, 7800, 3915, 3915}, "Frame2"}}}) {
+    fraScreen[0].BackColor(Look::kTray);
+    for (const int screen : {1, 2, 3}) fraScreen[screen].Background(WindowArt("panel"));
+}
+
+void BoardControls::ConnectBoard(frmGame& form) {
+    OnEach(picMat, &PictureBox::onMouseDown, form, &frmGame::picMat_MouseDown);
+    OnEach(picMat, &PictureBox::onMouseUp, form, &frmGame::picMat_MouseUp);
+    OnEach(picMat, &PictureBox::onMouseMove, form, &frmGame::picMat_MouseMove);
+
+    fraScreen[0].access = {QAccessible::List, [&form] { return BoardInWords(form); }};
+    constexpr const char* kScreens[] = {"levels and skins", "help", "high scores"};
+    for (const int screen : {1, 2, 3})
+        fraScreen[screen].access = {QAccessible::Grouping, Fixed(kScreens[screen - 1])};
+    for (std::int16_t cell = 0; cell < picMat.size(); ++cell)
+        picMat[cell].access = {QAccessible::ListItem, [&form, cell] { return CellInWords(form, cell); },
+                               [&form, cell] { form.LockInCell(cell); },
+                               [&form, cell] { return form.IsActive(cell); }};
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QWidget>
+
+#include "platform/Frame.h"
+#include "platform/PictureBox.h"
+#include "screen/ControlArray.h"
+
+class frmGame;
+
+// The four screens, of which the first is the board, and the board's cells. Start-up lays the screens over
+// one another.
+struct BoardControls {
+    explicit BoardControls(QWidget* window);
+
+    ControlArray<Frame, 4> fraScreen;
+    ControlArray<PictureBox, 16> picMat{"picMat", Grid<16>(&fraScreen[0], {0, 0, 960, 960}, 4, 990, 990), 2};
+
+protected:
+    void ConnectBoard(frmGame& form);
+};

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QWidget>
+
+#include "platform/Frame.h"
+#include "platform/Label.h"
+#include "platform/PictureBox.h"
+#include "platform/Shape.h"
+#include "screen/ControlArray.h"
+
+class frmGame;
+
+// The screen where a level and a skin are chosen.
+struct ChoiceControls {
+    explicit ChoiceControls(QWidget* itsScreen);
+
+    QWidget* const choices;
+    Label Label6{choices, {"Label6", {120, 195, 1500, 255}, " select level"}};
+    Label Label7{choices, {"Label7", {1740, 195, 1965, 255}, "select skin"}};
+    Frame Picture3{choices, {"Picture3", {120, 540, 1500, 1995}, ""}};
+    Frame Picture1{choices, {"Picture1", {1740, 540, 1965, 2655}, ""}};
+    Shape shpLevel{&Picture3, {"shpLevel", {315, 90, 1125, 300}, ""}};  // behind the chosen level
+    ControlArray<Label, 5> lblClass{"lblClass", Grid<5>(&Picture3, {390, 105, 1050, 270}, 1, 0, 360)};
+    Shape Shape1{&Picture3, {"Shape1", {180, 120, 105, 135}, ""}};
+    ControlArray<PictureBox, 12> picSkin{"picSkin", Grid<12>(&Picture1, {60, 30, 585, 615}, 3, 630, 660)};
+    PictureBox picCurrSkin{choices, {"picCurrSkin", {570, 2820, 525, 555}, ""}};
+    Label lblSkinName{choices, {"lblSkinName", {120, 3420, 1500, 240}, "sea"}};
+    Label Label13{choices, {"Label13", {1740, 3270, 1965, 225}, "for more skins"}};
+    Label Label14{choices, {"Label14", {1740, 3480, 1965, 225}, ""}};
+
+protected:
+    void ConnectChoices(frmGame& form);
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QWidget>
+
+#include "platform/Image.h"
+#include "platform/Label.h"
+#include "platform/Shape.h"
+#include "screen/ControlArray.h"
+
+class frmGame;
+
+// The menu: play, menu, help and score on the window's bar, and "more" on the help screen. Image2 of the
+// window shows the bar; the captions say what is on.
+struct MenuControls {
+    MenuControls(QWidget* window, QWidget* help);
+
+    ControlArray<Shape, 5> shpArea;
+    ControlArray<Label, 5> lblCaption;
+    ControlArray<Image, 5> imgButton;
+
+protected:
+    void ConnectMenu(frmGame& form);
+};
