@@ -2,12 +2,12 @@
 
 #include <cstdint>
 
-// Where random numbers come from. The program has one seeded from the clock; tests script it.
+// Where random numbers come from. The program's are the system's; tests script theirs.
 class RandomSource {
 public:
     virtual ~RandomSource() = default;
 
-    // Starts a fresh sequence from the clock; two calls never start the same one, even within a clock tick.
+    // Starts a fresh sequence, which no other call has started.
     virtual void Reseed() = 0;
 
     // A whole number 0 .. count - 1, each equally likely. count: 1 or more (asserted).

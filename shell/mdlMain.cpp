@@ -16,7 +16,7 @@
 #include "platform/Time.h"
 #include "screen/Look.h"
 #include "screen/frmGame.h"
-#include "shell/ClockRandom.h"
+#include "shell/SystemRandom.h"
 #include "shell/frmIcon.h"
 #include "shell/mdlFontSize.h"
 #include "shell/mdlRegistry.h"
@@ -43,7 +43,7 @@ void ChooseLocale() {
 }  // namespace
 
 int mdlMain::Main() {
-    ClockRandom random;
+    SystemRandom random;
     ChooseLocale();
     QImageReader::setAllocationLimit(kPictureMegabytes);
     Look::Apply(*qApp);
