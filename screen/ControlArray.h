@@ -4,7 +4,7 @@
 #include <concepts>
 #include <utility>
 
-#include "platform/MouseControl.h"
+#include "platform/controls/MouseControl.h"
 
 // Where one element of a control array stands.
 struct Spot {

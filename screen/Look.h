@@ -3,7 +3,7 @@
 #include <QColor>
 #include <QFont>
 
-#include "platform/Colour.h"
+#include "platform/pictures/Colour.h"
 
 class QApplication;
 

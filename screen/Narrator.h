@@ -3,7 +3,7 @@
 #include <QStringList>
 #include <vector>
 
-#include "platform/Control.h"
+#include "platform/controls/Control.h"
 
 class frmGame;
 

@@ -6,7 +6,7 @@
 #include <QTemporaryFile>
 #include <cstdio>
 
-#include "platform/PictureSheet.h"
+#include "platform/pictures/PictureSheet.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <utility>
 
-#include "platform/DevicePixels.h"
+#include "platform/pictures/DevicePixels.h"
 
 TimeBar::TimeBar(QWidget* parent, const Placement& placement, const PropertyBag& stored)
     : Control<QWidget>(parent, placement), bar_(surface_, *this) {

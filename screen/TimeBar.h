@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "platform/Control.h"
+#include "platform/controls/Control.h"
 #include "progbar/ProgBar.h"
 #include "screen/BarSurface.h"
 

@@ -3,10 +3,10 @@
 #include <functional>
 
 #include "model/RandomSource.h"
-#include "platform/Dialogs.h"
-#include "platform/ProgramFolder.h"
-#include "platform/SoundFiles.h"
-#include "platform/Time.h"
+#include "platform/desktop/Dialogs.h"
+#include "platform/desktop/Time.h"
+#include "platform/files/ProgramFolder.h"
+#include "platform/sound/SoundFiles.h"
 
 // What the game window needs of the world outside it. All of it must outlive the window.
 struct World {

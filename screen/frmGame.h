@@ -6,9 +6,9 @@
 #include <memory>
 
 #include "model/clsCard.h"
-#include "platform/KeyboardFocus.h"
-#include "platform/PictureClip.h"
-#include "platform/Timer.h"
+#include "platform/controls/KeyboardFocus.h"
+#include "platform/desktop/Timer.h"
+#include "platform/pictures/PictureClip.h"
 #include "screen/Recording.h"
 #include "screen/World.h"
 #include "screen/controls/BoardControls.h"

@@ -2,11 +2,11 @@
 
 #include <QPlainTextEdit>
 
-#include "platform/Image.h"
-#include "platform/KeyboardFocus.h"
-#include "platform/Label.h"
-#include "platform/ProgramFolder.h"
-#include "platform/Shape.h"
+#include "platform/controls/Image.h"
+#include "platform/controls/KeyboardFocus.h"
+#include "platform/controls/Label.h"
+#include "platform/controls/Shape.h"
+#include "platform/files/ProgramFolder.h"
 
 // The information window: the rules text, read from "\Res\Tesselor rules.txt" each time the window is made.
 // Without the file it is empty. Its button and Escape close it.

@@ -2,8 +2,8 @@
 
 #include <QDialog>
 
-#include "platform/Button.h"
-#include "platform/Label.h"
+#include "platform/controls/Button.h"
+#include "platform/controls/Label.h"
 
 // The notice that the display does not use small fonts. Its button, Escape and its close box all close it.
 class frmIcon final : public QDialog {

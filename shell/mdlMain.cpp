@@ -6,14 +6,14 @@
 #include <QLocale>
 #include <cstdlib>
 
-#include "platform/Access.h"
-#include "platform/Dialogs.h"
-#include "platform/PixelFile.h"
-#include "platform/Shell.h"
-#include "platform/SoundFiles.h"
-#include "platform/SoundPlayer.h"
-#include "platform/StringStore.h"
-#include "platform/Time.h"
+#include "platform/controls/Access.h"
+#include "platform/desktop/Dialogs.h"
+#include "platform/desktop/Shell.h"
+#include "platform/desktop/Time.h"
+#include "platform/files/StringStore.h"
+#include "platform/pictures/PixelFile.h"
+#include "platform/sound/SoundFiles.h"
+#include "platform/sound/SoundPlayer.h"
 #include "screen/Look.h"
 #include "screen/frmGame.h"
 #include "shell/SystemRandom.h"

@@ -1,6 +1,6 @@
 #include "shell/mdlRegistry.h"
 
-#include "platform/StringStore.h"
+#include "platform/files/StringStore.h"
 
 namespace mdlRegistry {
 namespace {

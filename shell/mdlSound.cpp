@@ -4,7 +4,7 @@
 #include <array>
 #include <cassert>
 
-#include "platform/SoundOutput.h"
+#include "platform/sound/SoundOutput.h"
 
 namespace mdlSound {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-#include "platform/Frame.h"
-#include "platform/PictureBox.h"
+#include "platform/controls/Frame.h"
+#include "platform/controls/PictureBox.h"
 #include "screen/ControlArray.h"
 
 class frmGame;

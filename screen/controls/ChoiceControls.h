@@ -2,10 +2,10 @@
 
 #include <QWidget>
 
-#include "platform/Frame.h"
-#include "platform/Label.h"
-#include "platform/PictureBox.h"
-#include "platform/Shape.h"
+#include "platform/controls/Frame.h"
+#include "platform/controls/Label.h"
+#include "platform/controls/PictureBox.h"
+#include "platform/controls/Shape.h"
 #include "screen/ControlArray.h"
 
 class frmGame;

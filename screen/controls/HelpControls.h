@@ -2,10 +2,10 @@
 
 #include <QWidget>
 
-#include "platform/Button.h"
-#include "platform/Image.h"
-#include "platform/Label.h"
-#include "platform/Shape.h"
+#include "platform/controls/Button.h"
+#include "platform/controls/Image.h"
+#include "platform/controls/Label.h"
+#include "platform/controls/Shape.h"
 #include "screen/ControlArray.h"
 
 class frmGame;

@@ -2,9 +2,9 @@
 
 #include <QWidget>
 
-#include "platform/Image.h"
-#include "platform/Label.h"
-#include "platform/Shape.h"
+#include "platform/controls/Image.h"
+#include "platform/controls/Label.h"
+#include "platform/controls/Shape.h"
 #include "screen/ControlArray.h"
 
 class frmGame;

@@ -2,9 +2,9 @@
 
 #include <QWidget>
 
-#include "platform/Label.h"
-#include "platform/LineLabel.h"
-#include "platform/Shape.h"
+#include "platform/controls/Label.h"
+#include "platform/controls/LineLabel.h"
+#include "platform/controls/Shape.h"
 #include "screen/ControlArray.h"
 
 class frmGame;

@@ -3,7 +3,7 @@
 #include <QtEndian>
 #include <filesystem>
 
-#include "platform/WaveData.h"
+#include "platform/sound/WaveData.h"
 #include "tests/support/GameWindow.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <QBitmap>
 #include <QEnterEvent>
 
-#include "platform/PixelFile.h"
+#include "platform/pictures/PixelFile.h"
 #include "tests/support/GameWindow.h"
 
 namespace {

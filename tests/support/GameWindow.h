@@ -7,7 +7,7 @@
 #include <deque>
 #include <random>
 
-#include "platform/SoundOutput.h"
+#include "platform/sound/SoundOutput.h"
 #include "screen/frmGame.h"
 #include "tests/support/Files.h"
 #include "tests/support/VirtualTime.h"

@@ -2,7 +2,7 @@
 
 #include <QTemporaryDir>
 
-#include "platform/StringStore.h"
+#include "platform/files/StringStore.h"
 #include "shell/mdlRegistry.h"
 #include "tests/support/Files.h"
 

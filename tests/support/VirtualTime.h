@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "platform/Time.h"
+#include "platform/desktop/Time.h"
 
 // Time that passes only when told to. Alarms fall due as the real ones do: in the order of their times, never
 // inside a handler that does not process events, and once, late, when several were missed.

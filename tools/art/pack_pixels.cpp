@@ -5,7 +5,7 @@
 #include <QFile>
 #include <cstdio>
 
-#include "platform/PixelFile.h"
+#include "platform/pictures/PixelFile.h"
 
 int main(int argc, char* argv[]) {
     for (int i = 1; i < argc; ++i) {

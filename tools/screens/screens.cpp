@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <memory>
 
-#include "platform/StringStore.h"
+#include "platform/files/StringStore.h"
 #include "tools/display/RealWindow.h"
 #include "tools/display/Spots.h"
 #include "tools/display/VirtualDisplay.h"

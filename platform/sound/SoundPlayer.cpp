@@ -1,0 +1,83 @@
+#include "platform/sound/SoundPlayer.h"
+
+#include <condition_variable>
+#include <mutex>
+#include <system_error>
+#include <utility>
+
+#include "platform/sound/SoundServer.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// A sound that starts later than this no longer belongs to what is seen.
+constexpr auto kLate = 1s;
+constexpr auto kPatienceAtTheEnd = 200ms;
+// What is heard belongs to something that is seen. Drawing that goes first: both at once get into each
+// other's way, and no ear notices a sound that is so little late.
+constexpr auto kBehindThePicture = 3ms;
+
+}  // namespace
+
+struct SoundPlayer::Desk {
+    SoundServer server;
+    std::mutex mutex;  // guards what follows; never held while something else is waited for
+    std::optional<Sound> newest;
+    bool toEnd = false, hasEnded = false;
+    std::condition_variable end;
+};
+
+SoundPlayer::~SoundPlayer() {
+    if (!desk_) return;
+    std::unique_lock lock(desk_->mutex);
+    desk_->toEnd = true;
+    desk_->server.Wake();
+    const bool ended = desk_->end.wait_for(lock, kPatienceAtTheEnd, [this] { return desk_->hasEnded; });
+    lock.unlock();
+    if (ended)
+        thread_.join();
+    else
+        thread_.detach();
+}
+
+bool SoundPlayer::Play(const QByteArray& wave) {
+    auto sound = WaveData::Read(wave);
+    if (!sound || (!desk_ && !Begin())) return false;
+    {
+        const std::lock_guard lock(desk_->mutex);
+        desk_->newest = Sound{std::move(*sound), QDeadlineTimer(kLate)};
+    }
+    desk_->server.Wake();
+    return desk_->server.Works();
+}
+
+bool SoundPlayer::Begin() {
+    try {
+        auto desk = std::make_shared<Desk>();
+        thread_ = std::thread(Work, desk);
+        desk_ = std::move(desk);
+    } catch (const std::system_error&) {
+        return false;  // no files or no thread to be had now; the next sound tries again
+    }
+    return true;
+}
+
+void SoundPlayer::Work(const std::shared_ptr<Desk>& desk) {
+    for (;;) {
+        desk->server.AwaitEvent();
+        std::unique_lock lock(desk->mutex);
+        if (desk->toEnd) break;
+        if (!desk->newest) continue;
+        lock.unlock();
+        std::this_thread::sleep_for(kBehindThePicture);
+        lock.lock();
+        Sound sound = *std::exchange(desk->newest, std::nullopt);
+        lock.unlock();
+        desk->server.Play(std::move(sound));
+    }
+    desk->server.Disconnect();
+    const std::lock_guard lock(desk->mutex);
+    desk->hasEnded = true;
+    desk->end.notify_one();
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <thread>
+
+#include "platform/sound/SoundOutput.h"
+
+// The computer's sound. Play only lays the sound ready for a thread that does the rest, so it never waits,
+// whatever state the sound server is in; of sounds that come faster than they can be started the newest wins.
+// The thread begins with the first sound and sleeps between sounds.
+class SoundPlayer final : public SoundOutput {
+public:
+    SoundPlayer() = default;
+    // Ends the sound. A thread that does not answer soon is left to itself.
+    ~SoundPlayer() override;
+    SoundPlayer(const SoundPlayer&) = delete;
+    SoundPlayer& operator=(const SoundPlayer&) = delete;
+
+    bool Play(const QByteArray& wave) override;
+
+private:
+    struct Desk;
+    static void Work(const std::shared_ptr<Desk>& desk);
+    bool Begin();
+
+    std::shared_ptr<Desk> desk_;  // where sounds are laid ready; it lives as long as either side needs it
+    std::thread thread_;
+};

@@ -1,0 +1,145 @@
+#include "platform/sound/SoundServer.h"
+
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+namespace {
+
+// How much of a sound the server prepares ahead. Short, so that a sound that is cut off ends at once.
+constexpr pa_usec_t kAhead = 40 * PA_USEC_PER_MSEC;
+constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
+
+pa_sample_spec Format(const WaveData& wave) {
+    return {wave.bits == 8 ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE, static_cast<std::uint32_t>(wave.rate),
+            static_cast<std::uint8_t>(wave.channels)};
+}
+
+pa_buffer_attr Buffer(const pa_sample_spec& format) {
+    pa_buffer_attr buffer{};
+    buffer.maxlength = buffer.prebuf = buffer.minreq = buffer.fragsize = kServersChoice;
+    buffer.tlength = static_cast<std::uint32_t>(pa_usec_to_bytes(kAhead, &format));
+    return buffer;
+}
+
+bool IsOpening(const pa_stream* stream) {
+    return stream && pa_stream_get_state(stream) == PA_STREAM_CREATING;
+}
+
+}  // namespace
+
+// The loop has a wake-up of its own, but forgets one that comes just before it goes to sleep.
+SoundServer::SoundServer() : bell_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)) {
+    if (bell_ >= 0) loop_ = pa_mainloop_new();
+    if (!loop_) {
+        const int reason = errno;
+        if (bell_ >= 0) close(bell_);
+        throw std::system_error(reason, std::generic_category());
+    }
+    const auto silence = [](pa_mainloop_api*, pa_io_event*, int bell, pa_io_event_flags_t, void*) {
+        eventfd_t rings = 0;
+        eventfd_read(bell, &rings);
+    };
+    pa_mainloop_api* const api = pa_mainloop_get_api(loop_);
+    api->io_new(api, bell_, PA_IO_EVENT_INPUT, silence, nullptr);
+}
+
+SoundServer::~SoundServer() {
+    Disconnect();
+    pa_mainloop_free(loop_);
+    close(bell_);
+}
+
+void SoundServer::Wake() {
+    eventfd_write(bell_, 1);
+}
+
+void SoundServer::Play(Sound sound) {
+    next_ = std::move(sound);
+    if (context_ && PA_CONTEXT_IS_GOOD(pa_context_get_state(context_)))
+        StartNext();
+    else
+        Connect();
+}
+
+void SoundServer::Connect() {
+    Disconnect();
+    context_ = pa_context_new(pa_mainloop_get_api(loop_), "Tesselor");
+    if (!context_) return GiveUp();  // it takes 64 MB of addresses
+    const auto changed = [](pa_context*, void* self) { static_cast<SoundServer*>(self)->ContextChanged(); };
+    pa_context_set_state_callback(context_, changed, this);
+    if (pa_context_connect(context_, nullptr, PA_CONTEXT_NOFLAGS, nullptr) < 0) GiveUp();
+}
+
+void SoundServer::Disconnect() {
+    CloseStream();
+    if (!context_) return;
+    pa_context_set_state_callback(context_, nullptr, nullptr);
+    pa_context_disconnect(context_);
+    pa_context_unref(std::exchange(context_, nullptr));
+}
+
+void SoundServer::ContextChanged() {
+    if (!PA_CONTEXT_IS_GOOD(pa_context_get_state(context_))) return GiveUp();
+    StartNext();
+}
+
+// A stream that is just being opened cannot be taken back, so the next sound waits until it is there: at most
+// one request is under way, however long the server takes and however many sounds are asked for meanwhile.
+void SoundServer::StartNext() {
+    if (!next_ || pa_context_get_state(context_) != PA_CONTEXT_READY || IsOpening(stream_)) return;
+    CloseStream();
+    sound_ = *std::exchange(next_, std::nullopt);
+    if (!sound_.late.hasExpired()) OpenStream();
+}
+
+void SoundServer::OpenStream() {
+    const pa_sample_spec format = Format(sound_.wave);
+    const pa_buffer_attr buffer = Buffer(format);
+    stream_ = pa_stream_new(context_, "sound", &format, nullptr);
+    if (!stream_) return GiveUp();
+    const auto changed = [](pa_stream*, void* self) { static_cast<SoundServer*>(self)->StreamChanged(); };
+    pa_stream_set_state_callback(stream_, changed, this);
+    if (pa_stream_connect_playback(stream_, nullptr, &buffer, PA_STREAM_ADJUST_LATENCY, nullptr, nullptr) < 0)
+        GiveUp();
+}
+
+void SoundServer::StreamChanged() {
+    const pa_stream_state_t state = pa_stream_get_state(stream_);
+    if (!PA_STREAM_IS_GOOD(state)) return GiveUp();
+    if (state != PA_STREAM_READY) return;
+    works_ = true;
+    if (next_) return StartNext();
+    if (sound_.late.hasExpired()) return CloseStream();
+    WriteAll();
+}
+
+// The whole sound goes out at once: the server keeps what it cannot play yet, and nothing here has to wake up
+// until it has played the end.
+void SoundServer::WriteAll() {
+    const QByteArray& samples = sound_.wave.samples;
+    const auto size = static_cast<std::size_t>(samples.size());
+    if (pa_stream_write(stream_, samples.constData(), size, nullptr, 0, PA_SEEK_RELATIVE) < 0)
+        return GiveUp();
+    const auto heard = [](pa_stream* stream, int, void* self) {
+        auto* const server = static_cast<SoundServer*>(self);
+        if (stream == server->stream_) server->CloseStream();
+    };
+    if (pa_operation* draining = pa_stream_drain(stream_, heard, this)) pa_operation_unref(draining);
+}
+
+void SoundServer::CloseStream() {
+    if (!stream_) return;
+    pa_stream_set_state_callback(stream_, nullptr, nullptr);
+    pa_stream_disconnect(stream_);
+    pa_stream_unref(std::exchange(stream_, nullptr));
+}
+
+void SoundServer::GiveUp() {
+    works_ = false;
+    next_.reset();
+    CloseStream();
+}
