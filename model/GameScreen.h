@@ -10,9 +10,8 @@ inline constexpr std::uint32_t SND_NODEFAULT = 0x2;
 inline constexpr std::uint32_t SND_NOWAIT = 0x2000;
 inline constexpr std::uint32_t SND_FILENAME = 0x20000;
 
-// What the rules ask of whoever shows and sounds the game. Cells are 0..15: row * 4 + column, row 0 at the
-// top. Kinds are 0..38. Every call returns when it is done; none calls the model back except where it says
-// so.
+// The port through which the rules show the game and play its sounds. Cells are 0..15: row * 4 + column, row
+// 0 at the top. Kinds are 0..38. Calls are synchronous; none calls back into the model unless noted.
 class GameScreen {
 public:
     virtual ~GameScreen() = default;

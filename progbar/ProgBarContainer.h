@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-// Whoever a bar is placed in. It hears of every write that makes its stored copy of the bar out of date.
+// The container of a bar. It is notified of every write that makes its stored copy of the bar stale.
 class ProgBarContainer {
 public:
     virtual ~ProgBarContainer() = default;

@@ -16,8 +16,8 @@ inline constexpr std::int32_t kRightToLeft = 2;
 inline constexpr std::int32_t kLeftToRight = 3;
 
 // What a bar holds itself and paints from; the values here are those of a newly placed bar.
-// Property writes keep Min < Max, Percent <= 100 and BarStyle and FillDirection in their ranges, but a loaded
-// store is taken as it is: whoever reads a state copes with any values.
+// Property writes keep Min < Max, Percent <= 100 and BarStyle and FillDirection in range, but loaded values
+// are not validated, so code that reads a state must tolerate any value.
 struct ProgBarState {
     std::uint8_t Percent = 0;  // filled share, 0..100
     std::int32_t Min = 0;

@@ -1,4 +1,4 @@
-// The window without a mouse: the board's own keys, and the way of the keyboard through everything else.
+// Keyboard control: the board's own keys, and the focus order of everything else.
 
 #include <QKeyEvent>
 
@@ -30,8 +30,7 @@ std::int16_t VirtualKey(int key) {
 
 }  // namespace
 
-// While a game is on, its keys are the board's, whatever has the keyboard; Tab and Enter still reach the
-// rest.
+// During a game its keys go to the board, whatever has the focus; Tab and Enter still reach the rest.
 bool frmGame::BoardTakesKeys() const {
     return fraScreen[0].Visible() && (play != Play::Off || demoRuns_);
 }

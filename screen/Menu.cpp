@@ -43,7 +43,7 @@ void frmGame::imgButton_Click(std::int16_t Index) {
     mdlSound::PlayWave(mdlSound::Wave(111));
 }
 
-// The screen that stays is not hidden in between, for it would lose the keyboard.
+// Do not hide the screen that stays, even briefly: it would lose the focus.
 void frmGame::ShowScreen(std::int16_t index) {
     for (std::int16_t i = 0; i < fraScreen.size(); ++i)
         if (i != index) fraScreen[i].Visible(false);

@@ -7,8 +7,8 @@
 
 class frmGame;
 
-// Tells assistive technology what has changed in the game window, and the news of the game. It does so when
-// the program has nothing else to do, and nothing at all while no such technology is there.
+// Notifies assistive technology of changes in the game window and announces events of the game, whenever the
+// event loop is about to block. Does nothing without a listener.
 class Narrator {
 public:
     // `form` is a window with all its controls described, and outlives this.

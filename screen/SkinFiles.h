@@ -9,13 +9,13 @@ struct InstalledSkin {
     QString problem;
 };
 
-// Moves the skin `source` into the folder `folder`, where it replaces the file `replaced` (a name; empty for
-// none). At every moment each of the two skins exists whole in at least one place: the new one is written
-// under a hidden name, flushed and renamed, and only then do the old skin and the original go. A failure
-// leaves all as it was. A name that another skin has, in whatever case, gives way to a free one
-// ("sea-2.png"), and of one that would not be found again ("a\b.png", ".sea.png") the sign in the way becomes
-// "_". Of a link the file it points to is taken, and the link goes. An original that cannot be
-// deleted stays, without a word.
+// Moves the skin `source` into `folder`, replacing the file `replaced` (a name; empty for none). At every
+// moment each of the two skins exists whole in at least one place: the new one is written to a hidden
+// temporary file, flushed and renamed, and only then are the old skin and the original deleted. A failure
+// leaves everything as it was. If another skin has the name, in whatever case, a free one is chosen
+// ("sea-2.png"); characters that would hide the file from us ("a\b.png", ".sea.png") become "_". A symbolic
+// link is followed for its contents, and the link itself is deleted. An original that cannot be deleted
+// stays, silently.
 [[nodiscard]] InstalledSkin InstallSkin(const QString& source, const QString& folder,
                                         const QString& replaced);
 

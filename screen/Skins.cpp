@@ -29,7 +29,7 @@ void frmGame::FillSkinSlots() {
     picSkin_MouseUp(0, 0, 0, 0, 0);
 }
 
-// Decoding pictures takes far longer than showing the window, so it waits until the window is seen.
+// Decoding takes far longer than showing the window, so it is deferred until after the first paint.
 void frmGame::FinishSkinSlots() {
     if (skinsFinished_ || unloaded_) return;  // a window may be closed right after its first paint
     skinsFinished_ = true;
@@ -125,7 +125,6 @@ void frmGame::ChooseSkin(std::int16_t slot) {
 QString frmGame::LoadSkin() {
     const QString name = QString::fromStdString(Game().SetSkinPicture());
     if (!name.isEmpty()) return PicClip1.Load(world_.folder.Path(kSkinFolder + name));
-    return QStringLiteral(
-               "There is no skin to play with. A skin is a picture of 3 x 13 cards; put one into %1.")
+    return QStringLiteral("No skins were found. A skin is a picture of 3 x 13 cards; put one in %1.")
         .arg(world_.folder.Path(kSkinFolder));
 }

@@ -100,7 +100,7 @@ void frmGame::Resume() {
         Game().PlaySoundFromFile("\\wav\\space.wav");
     }
     formFunc_.ShowActiveCard();
-    narrator_->Add(QStringLiteral("The game goes on."));
+    narrator_->Add(QStringLiteral("Game resumed."));
 }
 
 void frmGame::Timer1_Timer() {

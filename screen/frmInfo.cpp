@@ -17,7 +17,7 @@ constexpr qreal kPadding = 9;  // between the text and the edge of its sheet
 constexpr qint64 kMostBytes = qint64{512} * 1024;
 
 QString RulesText(const QString& path) {
-    // Only a plain file: another kind could keep whoever opens it waiting.
+    // Regular files only: opening a FIFO would block.
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) return {};
     QString text = QString::fromUtf8(file.read(kMostBytes));

@@ -8,12 +8,12 @@ namespace {
 
 constexpr const char* kHelp =
     "Usage: tesselor [options]\n"
-    "A puzzle of cards in lines, played with the keyboard or the mouse.\n\n"
-    "  -h, --help     show this help and end\n"
-    "  -v, --version  show the version and end\n\n"
-    "Options of the Qt toolkit, such as -platform, are taken too. TESSELOR_HOME names\n"
-    "another folder for skins, rules text and sound files; QT_SCALE_FACTOR=2 makes\n"
-    "everything twice as large.\n";
+    "A single-player card puzzle.\n\n"
+    "  -h, --help     show this help and exit\n"
+    "  -v, --version  show the version and exit\n\n"
+    "Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another\n"
+    "folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the\n"
+    "size of the window.\n";
 
 }  // namespace
 

@@ -17,9 +17,9 @@ void Apply(QWidget& window);
 
 }  // namespace WindowShape
 
-// Moves a window with the mouse, from a press on its background until the release. The window system does it
-// where it can; elsewhere, and for the buttons it does not move with, the window follows the mouse. The move
-// begins with the first motion: a mere click must not leave the window hanging on the mouse.
+// Drags a window by its background. The left button hands the drag to the window system if it supports that;
+// otherwise the window follows the mouse. The drag starts with the first motion: handing over a mere click
+// could leave the window stuck to the mouse.
 class WindowMove {
 public:
     // A press at `global`, in screen coordinates. `leftButton`: the button the window system moves with.

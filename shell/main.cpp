@@ -11,7 +11,7 @@ namespace {
 
 QtMessageHandler theUsualHandler = nullptr;
 
-// The toolkit aborts when there is no display for it. That is no crash to be examined, so it ends in order.
+// Qt aborts when it cannot reach a display. Exit cleanly instead of dumping core.
 void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     if (type != QtFatalMsg) return theUsualHandler(type, context, message);
     std::fprintf(stderr, "tesselor cannot show its window: %s\n", qPrintable(message.simplified()));

@@ -24,10 +24,10 @@
 
 namespace {
 
-// The most memory one picture may take, in megabytes: no file can fill the machine.
+// The most memory Qt may allocate for one picture, in megabytes, so that no file can exhaust memory.
 constexpr int kPictureMegabytes = 96;
 
-// Of the sizes that title bars and task bars show; larger ones are the desktop entry's.
+// Only the sizes shown in title bars and task bars; the desktop entry has larger ones.
 QIcon ProgramIcon() {
     QIcon icon;
     for (const int size : {16, 24, 32, 48, 64})
@@ -35,7 +35,7 @@ QIcon ProgramIcon() {
     return icon;
 }
 
-// The plain C locale has no digit grouping; whoever runs under it still wants to read a score.
+// The plain C locale has no digit grouping, so format scores as in English.
 void ChooseLocale() {
     if (QLocale::system().language() == QLocale::C) QLocale::setDefault(QLocale(QLocale::English));
 }

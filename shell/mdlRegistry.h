@@ -21,8 +21,8 @@ void Hive(StringStore* hive);
 // Stores `text` under `name` in the key `path`, making the key when it is missing. A failure goes unnoticed.
 void WriteRegString(std::uint32_t root, const QString& path, const QString& name, const QString& text);
 
-// While it lives, all reads and writes are one step: other processes stay out, and the writes reach the disk
-// together at its end. Steps do not nest.
+// A scoped transaction: other processes cannot change the store while it lives, and all writes are committed
+// together when it ends. Steps do not nest.
 class Step {
 public:
     Step();

@@ -4,17 +4,15 @@
 #include <QString>
 #include <functional>
 
-// What a control is to a person who does not see the screen or does not use a mouse: assistive technology
-// reads it, the keyboard presses it. Texts and states are asked for when they are needed, so they are always
-// those of the screen and cost nothing while nobody asks.
+// How a control presents itself to assistive technology and the keyboard. Names and states are computed on
+// demand, so they always match the screen and cost nothing while nobody asks.
 struct Access {
     QAccessible::Role role = QAccessible::NoRole;  // none: decoration, which is left out
-    // What it is or shows, as one would say it. A control with a role but without this is described by the
-    // toolkit.
+    // The accessible name. A control with a role but no name is described by Qt.
     std::function<QString()> name{};
     std::function<void()> press{};   // what a click does; empty when it cannot be pressed
     std::function<bool()> chosen{};  // whether it is the chosen one of several; empty when there is no choice
-    std::function<int()> percent{};  // how far it has gone, 0..100; empty when nothing goes on
+    std::function<int()> percent{};  // progress, 0..100; empty for none
 };
 
 // The base of all controls that can be described.
@@ -29,6 +27,5 @@ public:
 // Whether `control` can be pressed by a key: one that says so itself, or a button of the toolkit.
 [[nodiscard]] bool IsPressable(const QWidget& control);
 
-// Makes assistive technology meet the controls as they describe themselves. Called once, before the first
-// window.
+// Exposes these descriptions to assistive technology. Called once, before the first window.
 void InstallAccess();

@@ -12,17 +12,17 @@ public:
     CommandButton(QWidget* parent, const Placement& placement) : Control<QPushButton>(parent, placement) {
         setText(placement.caption);
         setAutoDefault(true);          // pressed by Enter as by the space bar
-        setFocusPolicy(Qt::TabFocus);  // a click with the mouse moves no keyboard
+        setFocusPolicy(Qt::TabFocus);  // a mouse click does not move the focus
         access.role = QAccessible::PushButton;
     }
 
 protected:
-    // The toolkit's button hands the keyboard on at an arrow; in this window that goes by direction.
+    // QPushButton moves the focus along the tab order on arrow keys; here arrows move it by direction.
     void keyPressEvent(QKeyEvent* event) override {
         const bool arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
         arrow ? event->ignore() : QPushButton::keyPressEvent(event);
     }
-    // The toolkit's button, hidden while a mouse button is held on it, would still be clicked.
+    // Without this, a button hidden while it is pressed would still emit a click.
     bool hitButton(const QPoint& pos) const override { return isVisible() && QPushButton::hitButton(pos); }
 };
 
@@ -35,7 +35,7 @@ public:
     [[nodiscard]] QString Text() const { return text(); }
 
 protected:
-    // The toolkit's field passes on what it has no use for, such as Escape and Up: typing is no playing.
+    // QLineEdit ignores keys it does not use, such as Escape and Up; they must not reach the game.
     void keyPressEvent(QKeyEvent* event) override {
         QLineEdit::keyPressEvent(event);
         event->accept();

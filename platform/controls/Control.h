@@ -6,9 +6,8 @@
 #include "platform/controls/Twips.h"
 #include "platform/pictures/Colour.h"
 
-// A Qt widget as a control of the game: named, placed in twips, shown or hidden by itself, described to who
-// does not see it. Positions keep the twips they were given, so that code computing with them never meets
-// rounded values.
+// A Qt widget as a control of the game: named, placed in twips, with its own visibility and an accessible
+// description. Positions keep the twips they were given, so calculations never see rounded values.
 template <class Widget>
 class Control : public Widget, public HasAccess {
 public:

@@ -5,7 +5,7 @@
 #include "platform/controls/MouseControl.h"
 #include "platform/pictures/Picture.h"
 
-// The image control: shows a picture in its natural size, or nothing at all and is then a hot spot.
+// The image control: a picture at its natural size, or, without one, an invisible hit area.
 class Image : public MouseControl {
 public:
     Image(QWidget* parent, const Placement& placement) : MouseControl(parent, placement) {}

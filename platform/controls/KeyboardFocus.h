@@ -6,13 +6,12 @@
 
 class QKeyEvent;
 
-// Answers a key for the controls of `window`: Enter and the space bar press the one that has the keyboard,
-// an arrow hands the keyboard to the nearest one in its direction that can be pressed. False when the key
-// means nothing here.
+// Handles a key for the controls of `window`: Enter and the space bar press the focused one, an arrow moves
+// the focus to the nearest pressable one in its direction. False when the key is not handled.
 bool AnswerKey(QWidget& window, const QKeyEvent& event);
 
-// The mark around the control that has the keyboard, once the keyboard is in use: gold within dark, so that
-// it is seen on stone and on ivory. It lies above everything in its window and follows by itself.
+// The ring around the focused control, shown once the keyboard is in use: gold within dark, visible on both
+// stone and ivory. It stays on top of its window and follows the focus by itself.
 class FocusRing final : public QWidget, public HasAccess {
 public:
     explicit FocusRing(QWidget* window);

@@ -4,8 +4,8 @@
 
 #include "platform/controls/MouseControl.h"
 
-// The label control: text in one colour on whatever lies behind it. The toolkit's own label lays out a whole
-// document as soon as it can take the keyboard.
+// The label control: text in one colour on a transparent background. Not a QLabel, which lays out a whole
+// document as soon as it can take the focus.
 class Label : public MouseControl {
 public:
     Label(QWidget* parent, const Placement& placement);

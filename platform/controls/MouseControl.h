@@ -19,9 +19,8 @@ struct MouseInput {
 [[nodiscard]] MouseInput ToMouseInput(const QMouseEvent& event);
 using MouseHandler = std::function<void(const MouseInput&)>;
 
-// A control that hears the mouse. It swallows what it hears: a press on a control never moves the window,
-// whether the control is enabled or not. It can show that it is pressed: while the left button, pressed on
-// it, is held over it.
+// A control with mouse handlers. It never propagates mouse events, so a press on it cannot move the window,
+// whether it is enabled or not. It can look pressed while the left button, pressed on it, is held over it.
 class MouseControl : public Control<QWidget> {
 public:
     MouseControl(QWidget* parent, const Placement& placement);

@@ -125,7 +125,7 @@ void PictureBox::dragEnterEvent(QDragEnterEvent* event) {
 void PictureBox::dropEvent(QDropEvent* event) {
     const QString path = FirstFile(event->mimeData());
     if (path.isEmpty()) return;
-    // The game takes the file away itself, and only when it has it whole: to the other side this is a copy.
+    // The game deletes the file itself, once it has stored it safely, so the drag source must see a copy.
     event->setDropAction(Qt::CopyAction);
     event->accept();
     onFileDrop_(path);

@@ -14,7 +14,7 @@ public:
     [[nodiscard]] virtual bool Ask(QWidget* owner, const QString& question) = 0;
 };
 
-// The toolkit's own message boxes, with icons of the house.
+// Qt's message boxes with the game's icons.
 class MessageBoxes final : public Dialogs {
 public:
     void Tell(QWidget* owner, const QString& sentence) override;

@@ -2,8 +2,7 @@
 
 #include <QProcess>
 
-// The desktop's own opener in a process of its own: the toolkit's call may wait for a portal that does not
-// answer.
+// Run the desktop's opener in its own process: QDesktopServices can block on an unresponsive portal.
 void OpenAddress(const QString& address) {
     QProcess opener;
     opener.setProgram(QStringLiteral("xdg-open"));

@@ -5,12 +5,12 @@
 #include <functional>
 #include <memory>
 
-// Something that falls due again and again until it is stopped.
+// A repeating timer.
 class Alarm {
 public:
     virtual ~Alarm() = default;
-    // Falls due every `interval` from now on, afresh when it was running. Never while a handler runs that
-    // does not process events; several times missed fall due once.
+    // Fires every `interval` from now on; restarts a running timer. Fires only when events are processed, and
+    // several missed ticks fire once.
     virtual void Start(std::chrono::milliseconds interval) = 0;
     virtual void Stop() = 0;
 };

@@ -20,8 +20,8 @@ public:
         interval_ = milliseconds;
         if (enabled_) Apply();
     }
-    // No more ticks until it is enabled afresh or given an interval; it stays enabled. For a timer whose
-    // ticks change nothing any more: the machine can sleep on.
+    // Pauses the ticks until it is re-enabled or given an interval; it stays enabled. For a timer whose ticks
+    // no longer change anything, so that the CPU can sleep.
     void Rest() { alarm_->Stop(); }
 
 private:

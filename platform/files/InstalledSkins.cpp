@@ -28,7 +28,7 @@ bool Bring(const QString& name, const QString& installed, const QString& own, co
     const QString incoming = home + "/.incoming-" + name;
     const QString place = own + '/' + name;
     if (skin.isEmpty() || !Save(incoming, skin)) return false;
-    // Refused when another start of the game has been faster.
+    // Fails when another process won the race.
     const bool isIn = QFile::rename(incoming, place) || QFile::exists(place);
     QFile::remove(incoming);
     return isIn;

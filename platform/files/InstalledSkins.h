@@ -2,14 +2,14 @@
 
 #include <QString>
 
-// Brings the skins of the installed copy into a user's folder, each once and never again: one that the user
-// has removed or replaced stays so, and what a later release adds still comes. The file "installed-skins.txt"
-// in `home` lists the names of those that have come.
+// Copies installed skins to a user's folder, each exactly once: a skin the user has removed or replaced stays
+// that way, and skins added by a later release still arrive. "installed-skins.txt" in `home` lists the names
+// already copied.
 //
-// installed, own: the two skin folders; the second is made when it is missing, and a file that is there
-// already is the user's and stays, whatever its case. home: the user's folder. An end at any moment leaves
-// every file in `own` whole, and at worst brings one skin again.
+// installed, own: the two skin folders; `own` is created if missing, and a file already there, whatever its
+// case, is never overwritten. home: the user's folder. A crash at any point leaves every file in `own` whole;
+// at worst a skin is copied again.
 //
-// False when a skin could not be brought in, or not noted; the next call tries again. Called once a start,
-// which has nothing to do as a rule: one list of a folder and one small file are read.
+// False when a skin could not be copied or recorded; the next call retries. Called once per start, when it
+// usually only lists a folder and reads one small file.
 [[nodiscard]] bool BringInSkins(const QString& installed, const QString& own, const QString& home);

@@ -7,8 +7,8 @@
 // the separator and compared without regard to case.
 class ProgramFolder {
 public:
-    // root: the folder. installed: the copy that came with the program and belongs to nobody in particular;
-    // what the folder does not have is read there, but for skins. Empty for none.
+    // root: the folder. installed: the shared read-only copy, searched for anything missing from the folder
+    // except skins; empty for none.
     explicit ProgramFolder(QString root, QString installed = {})
         : root_(std::move(root)), installed_(std::move(installed)) {}
 

@@ -51,8 +51,8 @@ bool IsGood(sqlite3* database) {
     return Run(database, kCheck, {}, verdict) && verdict == QLatin1String(kGood);
 }
 
-// The journal goes along, and first: without it, what stays can still not be read; alone, it would be
-// deleted.
+// Move the journal first: a database that has lost its journal is still unreadable, but SQLite would delete a
+// journal that has lost its database.
 void SetAside(const QString& file) {
     const QString journal = QStringLiteral("-journal");
     QString aside;

@@ -9,8 +9,8 @@ struct sqlite3;
 // A store of string values addressed by key path and value name, both compared without regard to case: one
 // SQLite database, which is open only while it is used. The file is its owner's alone.
 //
-// What stands in its place and cannot be read (damaged, something else, a folder, closed to us) counts as an
-// empty store. The next change sets it aside under another name, never overwrites it.
+// An unreadable file (damaged, foreign, a folder, no permission) counts as an empty store. The next change
+// renames it; it is never overwritten.
 class StringStore {
 public:
     // A store in `file`, which is opened when it is first asked for something.
@@ -25,10 +25,10 @@ public:
     // Stores `text`, making the store when it is missing. A failure leaves it as it was.
     void SetString(const QString& path, const QString& name, const QString& text);
 
-    // What is read and written from Begin to End is one change: no other process changes the store meanwhile,
-    // and the whole of it reaches the disk at its end or, after any failure, nothing. Changes do not nest
-    // (asserted). Another process that does not let go is waited for two seconds, once; until it lets go,
-    // writes are lost, and what cannot be read counts as missing.
+    // Begin to End is one transaction: no other process changes the store meanwhile, and at the end either
+    // everything is committed or, after any failure, nothing. Transactions do not nest (asserted). Waits for
+    // another process's lock for two seconds, once; while that process keeps the lock, writes are lost and
+    // unreadable values count as missing.
     void Begin();
     void End();
 

@@ -24,8 +24,7 @@ public:
     [[nodiscard]] bool IsEmpty() const { return source_ == nullptr; }
     // Which cell of its source it is; meaningless when empty.
     [[nodiscard]] int Cell() const { return cell_; }
-    // The image for `scale`; null when empty, and while there is no memory for it: who paints it leaves it
-    // out.
+    // The image for `scale`; null when empty or out of memory, in which case painters skip it.
     [[nodiscard]] QImage At(qreal scale) const;
 
     friend bool operator==(const Picture&, const Picture&) = default;

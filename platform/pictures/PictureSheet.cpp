@@ -16,23 +16,23 @@ QString Sentence(const QString& path, const QString& what) {
 }
 
 QString WhyNotThisSize(const QSize& size) {
-    if (!size.isValid()) return QStringLiteral("is not a picture that can be read here.");
+    if (!size.isValid()) return QStringLiteral("is not a picture the game can read.");
     const QString pixels = QStringLiteral("is %1 x %2 pixels; ").arg(size.width()).arg(size.height());
     if (size.isEmpty() || size.width() % kSheetColumns != 0 || size.height() % kSheetRows != 0)
         return pixels + QStringLiteral(
-                            "a skin is 3 cells wide and 13 high, at least 3 x 13 pixels: its width "
-                            "divides by 3 and its height by 13.");
+                            "a skin has 3 x 13 cells, so its width must be a multiple of 3 and its "
+                            "height a multiple of 13.");
     if (qint64{size.width()} * size.height() > kMostSheetPixels)
         return pixels + QStringLiteral("a skin has at most 16 million pixels.");
     return {};
 }
 
-// The toolkit takes a JPEG that ends too early for a whole one; the format's own end mark tells.
+// Qt accepts truncated JPEGs, so look for the end-of-image marker.
 bool IsCutShort(const QByteArray& format, const QByteArray& bytes) {
     return format == "jpeg" && !bytes.last(qMin<qsizetype>(bytes.size(), 64)).contains("\xFF\xD9");
 }
 
-// An image without memory is a null one, with which the toolkit goes on in silence.
+// Qt reports a failed allocation only as a null image.
 QImage Allocated(QImage image) {
     if (image.isNull()) throw std::bad_alloc();
     return image;
@@ -44,7 +44,7 @@ QImage Decode(const QByteArray& bytes) {
     buffer.setData(bytes);
     QImageReader reader(&buffer);
     if (!WhyNotThisSize(reader.size()).isEmpty() || IsCutShort(reader.format(), bytes)) return {};
-    // The toolkit would call a picture for which there is no memory a damaged one.
+    // Allocate first: QImageReader does not distinguish out of memory from a damaged picture.
     (void)Allocated(QImage(reader.size(), QImage::Format_ARGB32));
     return reader.read();
 }
@@ -80,7 +80,7 @@ private:
 
 QString WhyNotASheet(const QString& path) {
     const QFileInfo file(path);
-    if (!file.isFile()) return Sentence(path, QStringLiteral("is not there."));
+    if (!file.isFile()) return Sentence(path, QStringLiteral("was not found."));
     if (file.size() > kMostSheetBytes)
         return Sentence(path, QStringLiteral("is larger than 64 megabytes, the most a skin may have."));
     QImageReader reader(path);
@@ -100,7 +100,7 @@ std::shared_ptr<PictureSheet> PictureSheet::Load(const QString& path, QString& w
     try {
         return FromBytes(file.read(qMin(file.size(), kMostSheetBytes)), path, why);
     } catch (const std::bad_alloc&) {
-        why = Sentence(path, QStringLiteral("needs more memory than there is."));
+        why = Sentence(path, QStringLiteral("needs more memory than is available."));
         return nullptr;
     }
 }
@@ -109,7 +109,7 @@ std::shared_ptr<PictureSheet> PictureSheet::FromBytes(const QByteArray& bytes, c
                                                       QString& why) {
     const QImage sheet = Decode(bytes);
     if (sheet.isNull()) {
-        why = Sentence(path, QStringLiteral("is damaged: its picture cannot be read to the end."));
+        why = Sentence(path, QStringLiteral("is damaged or incomplete."));
         return nullptr;
     }
     std::shared_ptr<PictureSheet> loaded(new PictureSheet(bytes));
@@ -119,7 +119,7 @@ std::shared_ptr<PictureSheet> PictureSheet::FromBytes(const QByteArray& bytes, c
     return loaded;
 }
 
-// What a sheet leaves are holes in the heap. They go back to the system.
+// A freed sheet leaves holes in the heap; return them to the system.
 PictureSheet::~PictureSheet() {
     cells_ = {};
     bytes_ = {};

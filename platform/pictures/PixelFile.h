@@ -2,8 +2,8 @@
 
 #include <QImage>
 
-// The window's own art as it lies in the resources: pixels that are shown as they are, for decoding pictures
-// took as long as half of the rest of the start. tools/art/pack_pixels writes them while building.
+// The window's art as stored in the resources: raw pixels, because decoding pictures took half as long as the
+// rest of start-up. tools/art/pack_pixels writes them during the build.
 
 // The pixels of `image`, premultiplied, behind their size and whether they can be seen through.
 [[nodiscard]] QByteArray PackPixels(const QImage& image);

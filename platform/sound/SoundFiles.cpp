@@ -7,7 +7,7 @@
 
 bool SoundFiles::Play(const QString& path) {
     const QFileInfo info(path);
-    // Only a plain file: another kind could keep whoever opens it waiting.
+    // Regular files only: opening a FIFO would block.
     if (!info.isFile() || info.size() > kLargest) return false;
     Kept& kept = kept_[path];
     if (kept.changed != info.lastModified() || kept.size != info.size()) {

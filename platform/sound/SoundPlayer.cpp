@@ -11,11 +11,10 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// A sound that starts later than this no longer belongs to what is seen.
+// A sound that would start later than this no longer matches the screen and is dropped.
 constexpr auto kLate = 1s;
 constexpr auto kPatienceAtTheEnd = 200ms;
-// What is heard belongs to something that is seen. Drawing that goes first: both at once get into each
-// other's way, and no ear notices a sound that is so little late.
+// Delay the sound so that drawing comes first: each slows the other down, and the delay is inaudible.
 constexpr auto kBehindThePicture = 3ms;
 
 }  // namespace

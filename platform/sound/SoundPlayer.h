@@ -5,13 +5,13 @@
 
 #include "platform/sound/SoundOutput.h"
 
-// The computer's sound. Play only lays the sound ready for a thread that does the rest, so it never waits,
-// whatever state the sound server is in; of sounds that come faster than they can be started the newest wins.
-// The thread begins with the first sound and sleeps between sounds.
+// The computer's sound. Play hands the sound to a thread, so it never blocks, whatever state the sound server
+// is in; if sounds arrive faster than they can be started, the newest wins. The thread starts with the first
+// sound and sleeps between sounds.
 class SoundPlayer final : public SoundOutput {
 public:
     SoundPlayer() = default;
-    // Ends the sound. A thread that does not answer soon is left to itself.
+    // Stops the sound. A thread that does not end promptly is detached.
     ~SoundPlayer() override;
     SoundPlayer(const SoundPlayer&) = delete;
     SoundPlayer& operator=(const SoundPlayer&) = delete;

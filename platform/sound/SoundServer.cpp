@@ -31,7 +31,7 @@ bool IsOpening(const pa_stream* stream) {
 
 }  // namespace
 
-// The loop has a wake-up of its own, but forgets one that comes just before it goes to sleep.
+// pa_mainloop_wakeup loses a wake-up that comes just before the loop goes to sleep; an eventfd does not.
 SoundServer::SoundServer() : bell_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)) {
     if (bell_ >= 0) loop_ = pa_mainloop_new();
     if (!loop_) {

@@ -16,12 +16,12 @@ struct Sound {
 
 // The connection to the sound server (PulseAudio, or PipeWire in its place), which plays one sound at a time.
 //
-// Belongs to one thread, but for what says otherwise. Nothing here waits for an answer: a request goes out,
-// and what comes back calls ContextChanged, StreamChanged or CloseStream from within AwaitEvent. So a server
-// that hangs costs nothing but the sound, and one that has gone is looked for again with the next sound.
+// Confined to one thread unless noted. Nothing here blocks on a reply: replies call ContextChanged,
+// StreamChanged or CloseStream from within AwaitEvent. If the server hangs, only the sound is lost; if it has
+// gone, the next sound tries to reconnect.
 class SoundServer {
 public:
-    // Throws std::system_error when the system has no files to spare for it.
+    // Throws std::system_error when out of file descriptors.
     SoundServer();
     ~SoundServer();
     SoundServer(const SoundServer&) = delete;

@@ -220,7 +220,7 @@ TEST(Sheets, OfAnySizeAreCutIntoFittedCellsAndReadAgainWhenTheyChange) {
         EXPECT_EQ(clip.Thumbnail().At(1.5).pixelColor(45, 45), QColor(0, 0, 50));
     }
     QFile::remove(path);
-    EXPECT_EQ(clip.Load(path), "\"sheet.png\" is not there.");
+    EXPECT_EQ(clip.Load(path), "\"sheet.png\" was not found.");
     EXPECT_FALSE(clip.Cell(0).IsEmpty()) << "the last good one stays";
 }
 

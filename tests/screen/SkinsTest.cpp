@@ -45,14 +45,14 @@ struct Skins : testing::Test, GameWindow {
 TEST_F(Skins, ThatAreNoneTakeNoSlotAndAreRefused) {
     const QByteArray png = Encoded({300, 1300}), jpeg = Encoded({300, 1300}, "JPEG");
     const std::tuple<QString, QByteArray, QString> files[] = {
-        {"gone.png", {}, "is not there."},
-        {"folder.png", {}, "is not there."},
-        {"pipe.png", {}, "is not there."},
-        {"text.png", "this is no picture", "is not a picture that can be read here."},
-        {"half.png", png.first(png.size() / 2), "is damaged: its picture cannot be read to the end."},
-        {"half.jpg", jpeg.chopped(2), "is damaged: its picture cannot be read to the end."},
-        {"narrow.png", Encoded({2, 13}), "is 2 x 13 pixels; a skin is 3 cells wide and 13 high"},
-        {"low.png", Encoded({3, 12}), "is 3 x 12 pixels; a skin is 3 cells wide and 13 high"},
+        {"gone.png", {}, "was not found."},
+        {"folder.png", {}, "was not found."},
+        {"pipe.png", {}, "was not found."},
+        {"text.png", "this is no picture", "is not a picture the game can read."},
+        {"half.png", png.first(png.size() / 2), "is damaged or incomplete."},
+        {"half.jpg", jpeg.chopped(2), "is damaged or incomplete."},
+        {"narrow.png", Encoded({2, 13}), "is 2 x 13 pixels; a skin has 3 x 13 cells"},
+        {"low.png", Encoded({3, 12}), "is 3 x 12 pixels; a skin has 3 x 13 cells"},
         {"large.png", Encoded({4002, 4004}), "is 4002 x 4004 pixels; a skin has at most 16 million pixels."},
         {"long.png", {}, "is larger than 64 megabytes, the most a skin may have."},
     };

@@ -51,8 +51,8 @@ TEST(Window, SaysWhyThereIsNothingToPlayWithAndGoesOn) {
     EXPECT_EQ(game.Model().CardsInMatrix(), 0);
     game.Open();
     game.form->imgButton_Click(0);
-    EXPECT_EQ(game.dialogs.told.value(0), "\"test.png\" is not there.");
-    EXPECT_TRUE(game.dialogs.told.value(1).endsWith("put one into " + game.Art().chopped(1) + '.'));
+    EXPECT_EQ(game.dialogs.told.value(0), "\"test.png\" was not found.");
+    EXPECT_TRUE(game.dialogs.told.value(1).endsWith("put one in " + game.Art().chopped(1) + '.'));
     EXPECT_EQ(game.form->CurrentMenu, 2);
 }
 
