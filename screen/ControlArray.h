@@ -41,10 +41,10 @@ public:
         return controls_[static_cast<std::size_t>(index)];
     }
     static constexpr std::int16_t size() { return N; }
-    auto begin() { return controls_.begin(); }
-    auto end() { return controls_.end(); }
-    auto begin() const { return controls_.begin(); }
-    auto end() const { return controls_.end(); }
+    ControlType* begin() { return controls_.data(); }
+    ControlType* end() { return controls_.data() + N; }
+    const ControlType* begin() const { return controls_.data(); }
+    const ControlType* end() const { return controls_.data() + N; }
 
 private:
     template <std::size_t... I, class... More>

@@ -111,7 +111,7 @@ TEST_F(Skins, DroppedOnesTakeASlotUnderAFreeName) {
     for (const auto& [what, slot, name, filled, becomes] : cases) {
         SCOPED_TRACE(what);
         const bool full = slot < form->SkinCount, taken = !becomes.isEmpty();
-        const QString replaced = form->skinFile[std::size_t(slot)], file = outside.filePath(name);
+        const QString replaced = form->skinFile[slot], file = outside.filePath(name);
         WriteSkin(file, {7, 5});
         EXPECT_TRUE(Drop(slot, file));
         if (taken) art.removeOne(replaced), art.append(becomes), art.sort();
@@ -127,7 +127,7 @@ TEST_F(Skins, DroppedOnesTakeASlotUnderAFreeName) {
                 EXPECT_EQ(form->picSkin[std::size_t(i)].Contents().Render(1).pixel(1, 20) == 0xFFFF0000,
                           i == framed);
         }
-        EXPECT_TRUE(!taken || form->skinFile[std::size_t(filled)] == becomes);
+        EXPECT_TRUE(!taken || form->skinFile[filled] == becomes);
         dialogs.answer = true;
     }
 }

@@ -124,7 +124,7 @@ std::string Broken(const Simulation& w) {
         {"a limit has a bar", form.prbTime.Visible() == hasLimit && form.shpTime.Visible() == hasLimit},
         {"a full slot is chosen", form.CurrentSkin <= std::max<int>(0, form.SkinCount - 1)},
         {"the model has the skin",
-         QString::fromStdString(game.SetSkinPicture()) == form.skinFile[std::size_t(form.CurrentSkin)]},
+         QString::fromStdString(game.SetSkinPicture()) == form.skinFile[form.CurrentSkin]},
         {"the focus takes keys", !focus || form.isMinimized() || (focus->isVisible() && focus->isEnabled())},
         {"high scores are kept", HighScoresAreKept(w)},
         {"no skin is lost without a yes", ranges::count_if(w.before.files, lost) <= w.mayGo},
