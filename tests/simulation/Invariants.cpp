@@ -1,7 +1,7 @@
 // What holds between two events, read off the window and the model and put beside each other.
 
 #include <algorithm>
-#include <ranges>
+#include <numeric>
 
 #include "model/Levels.h"
 #include "screen/Look.h"
@@ -81,7 +81,8 @@ std::string Broken(const Simulation& w) {
     const Label& level = form.lblClass[std::size_t(form.CurrentLevel)];
     const bool hasLimit = form.CurrentLevel > 0, asks = form.picEnterName.Visible();
     const QWidget* focus = form.focusWidget();
-    const auto cells = std::views::iota(std::int16_t{0}, kCells);
+    std::array<std::int16_t, kCells> cells{};
+    std::iota(cells.begin(), cells.end(), std::int16_t{0});
     const auto visible = [](const Frame& screen) { return screen.Visible(); };
     const auto right = [&w](std::int16_t cell) { return CellIsRight(w, cell); };
     const auto occupied = [&w](std::int16_t cell) { return Occupied(w, cell); };
