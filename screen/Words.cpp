@@ -6,7 +6,7 @@ namespace {
 
 QString ContentsInWords(const frmGame& form, std::int16_t cell) {
     if (form.boardCovered) return QStringLiteral("covered");
-    const QString locked =
+    QString locked =
         form.IsOccupied(cell) ? CardInWords(form.Game().CardAt(cell).Number) : QStringLiteral("empty");
     if (!form.IsActive(cell)) return locked;
     const QString active = CardInWords(form.Game().CurrentCard()) + QStringLiteral(", active card");
