@@ -101,9 +101,9 @@ class Desk:
         return set(self.do("search", "--onlyvisible", "--name", "^Tesselor$").split())
 
     # Waits for a message, and until Return has answered it.
-    def answer(self):
+    def answer(self, key="Return"):
         box = until(lambda: self.shown() - {self.window}, "no message").pop()
-        self.do("windowfocus", box, "key", "Return")
+        self.do("windowfocus", box, "key", key)
         until(lambda: box not in self.shown(), "the message stays")
         self.do("windowfocus", self.window)
 
