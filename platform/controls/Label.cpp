@@ -22,6 +22,7 @@ void Label::ForeColor(Colour colour) {
 // Pressed, the text stands a pixel lower.
 void Label::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
+    painter.setFont(ShownFont());
     painter.setPen(ToQColor(colour_));
     const int flags = static_cast<int>(alignment_) | (wrap_ ? Qt::TextWordWrap : 0);
     painter.drawText(rect().translated(0, IsPressed() ? 1 : 0), flags, Shown().remove(u'\r'));

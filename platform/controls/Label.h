@@ -18,6 +18,8 @@ public:
     void WordWrap(bool wrap) { wrap_ = wrap; }
     // A web link: underlined while the mouse is over it.
     void IsLink(bool link) { isLink_ = link; }
+    // The text as it is painted.
+    [[nodiscard]] virtual QString Shown() const { return caption_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -25,7 +27,7 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
-    [[nodiscard]] virtual QString Shown() const { return caption_; }
+    [[nodiscard]] virtual QFont ShownFont() const { return font(); }
     void Underline(bool underline);
 
     QString caption_;

@@ -9,21 +9,36 @@ namespace {
 
 constexpr qsizetype kMostUnits = 200;  // to lay out; damaged text may be of any length
 
+constexpr int kSmallestPixels = 9;
+
 bool IsControl(QChar unit) {
-    return unit.category() == QChar::Other_Control;
+    return unit.category() == QChar::Other_Control || unit == QChar::LineSeparator ||
+           unit == QChar::ParagraphSeparator;
 }
 
 }  // namespace
 
-// Control characters become spaces, and any number of spaces and line breaks one.
+// Control characters and line breaks become spaces.
 QString LineLabel::Line() const {
     QString line = Caption().left(kMostUnits);
     std::replace_if(line.begin(), line.end(), IsControl, QChar(u' '));
-    return line.simplified();
+    return line;
+}
+
+QString LineLabel::Elided(const QFont& font) const {
+    return QFontMetrics(font).elidedText(Line(), Qt::ElideRight, width());
+}
+
+// Smaller letters rather than fewer, as far as they can be read.
+QFont LineLabel::ShownFont() const {
+    QFont fitted = font();
+    while (fitted.pixelSize() > kSmallestPixels && Elided(fitted) != Line())
+        fitted.setPixelSize(fitted.pixelSize() - 1);
+    return fitted;
 }
 
 QString LineLabel::Shown() const {
-    return fontMetrics().elidedText(Line(), Qt::ElideRight, width());
+    return Elided(ShownFont());
 }
 
 bool LineLabel::event(QEvent* event) {

@@ -8,10 +8,13 @@ class LineLabel final : public Label {
 public:
     using Label::Label;
 
+    [[nodiscard]] QString Shown() const override;
+
 protected:
     bool event(QEvent* event) override;
 
 private:
     [[nodiscard]] QString Line() const;
-    [[nodiscard]] QString Shown() const override;
+    [[nodiscard]] QString Elided(const QFont& font) const;
+    [[nodiscard]] QFont ShownFont() const override;
 };
