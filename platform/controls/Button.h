@@ -33,6 +33,8 @@ public:
     }
 
     [[nodiscard]] QString Text() const { return text(); }
+    // Keeps no more than the first `letters` of what is typed, pasted or set, as a reader counts them.
+    void MostLetters(int letters);
 
 protected:
     // QLineEdit ignores keys it does not use, such as Escape and Up; they must not reach the game.

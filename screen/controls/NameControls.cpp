@@ -17,7 +17,7 @@ NameControls::NameControls(QWidget* window)
     shpEnterName[0].Look(QColor(0x4A, 0x36, 0x10), Look::kBrass);
     shpEnterName[1].Look(Look::kDarkBrass, ToQColor(Look::kPanel));
     Dress(Label3, Look::Text::Heading);
-    txtName.setMaxLength(kMostLetters);
+    txtName.MostLetters(kMostLetters);
 }
 
 void NameControls::ConnectNameEntry(frmGame& form) {
