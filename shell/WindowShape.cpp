@@ -1,5 +1,7 @@
 #include "shell/WindowShape.h"
 
+#include <QGuiApplication>
+#include <QScreen>
 #include <QWidget>
 #include <QWindow>
 
@@ -7,6 +9,22 @@ void WindowShape::Apply(QWidget& window) {
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     window.setFixedSize(kRegion.size());
+}
+
+QPoint WindowShape::OnScreen(QRect place, const QRect& screen) {
+    place.moveRight(qMin(place.right(), screen.right()));
+    place.moveBottom(qMin(place.bottom(), screen.bottom()));
+    return {qMax(place.left(), screen.left()), qMax(place.top(), screen.top())};
+}
+
+void WindowShape::KeepOnScreens(QWidget& window) {
+    const auto watch = [&window](const QScreen* screen) {
+        QObject::connect(screen, &QScreen::availableGeometryChanged, &window, [&window] {
+            window.move(OnScreen(window.frameGeometry(), window.screen()->availableGeometry()));
+        });
+    };
+    for (const QScreen* screen : QGuiApplication::screens()) watch(screen);
+    QObject::connect(qApp, &QGuiApplication::screenAdded, &window, watch);
 }
 
 void WindowMove::Press(const QWidget& window, QPoint global, bool leftButton) {

@@ -15,6 +15,12 @@ inline constexpr QRect kRegion{QPoint(2, 22), QPoint(400, 432)};
 // Cuts `window` down to the visible rectangle: without a title bar, 399 x 411, and no other size.
 void Apply(QWidget& window);
 
+// `place` moved so that it lies on `screen`, as far as it fits; returns its corner.
+[[nodiscard]] QPoint OnScreen(QRect place, const QRect& screen);
+
+// Brings `window` back whenever a screen changes its size.
+void KeepOnScreens(QWidget& window);
+
 }  // namespace WindowShape
 
 // Drags a window by its background. The left button hands the drag to the window system if it supports that;

@@ -1,4 +1,6 @@
 #include <malloc.h>
+#include <pwd.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <cstdio>
@@ -22,6 +24,9 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const 
 
 int main(int argc, char* argv[]) {
     if (const auto status = AnswerCommandLine(argc, argv)) return *status;
+    // Otherwise Qt would store the player's files in the root folder.
+    if (const passwd* user = getpwuid(getuid()); user && !qEnvironmentVariableIsSet("HOME"))
+        qputenv("HOME", user->pw_dir);
     mallopt(M_MMAP_THRESHOLD, 1 << 20);  // a decoded picture goes back to the system, not to the heap
     theUsualHandler = qInstallMessageHandler(EndWithoutDisplay);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
