@@ -53,6 +53,7 @@ void MouseControl::mouseReleaseEvent(QMouseEvent* event) {
     const bool inside = isVisible() && rect().contains(event->pos());
     const bool click = inside && event->button() == Qt::LeftButton;
     Call(onMouseUp, *event);
+    if (inside) Call(onReleaseInside, *event);
     if (click && onClick) onClick();
 }
 

@@ -29,6 +29,7 @@ public:
     void ShowsPress(bool shows) { showsPress_ = shows; }
 
     MouseHandler onMouseDown, onMouseUp;
+    MouseHandler onReleaseInside;   // any button; not on what is hidden by then
     MouseHandler onMouseMove;       // with and without a button held
     std::function<void()> onClick;  // the left button was released inside; not on what is hidden by then
 

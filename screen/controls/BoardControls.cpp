@@ -15,15 +15,20 @@ BoardControls::BoardControls(QWidget* window)
 
 void BoardControls::ConnectBoard(frmGame& form) {
     OnEach(picMat, &PictureBox::onMouseDown, form, &frmGame::picMat_MouseDown);
-    OnEach(picMat, &PictureBox::onMouseUp, form, &frmGame::picMat_MouseUp);
     OnEach(picMat, &PictureBox::onMouseMove, form, &frmGame::picMat_MouseMove);
 
     fraScreen[0].access = {QAccessible::List, [&form] { return BoardInWords(form); }};
     constexpr const char* kScreens[] = {"levels and skins", "help", "high scores"};
     for (const int screen : {1, 2, 3})
         fraScreen[screen].access = {QAccessible::Grouping, Fixed(kScreens[screen - 1])};
-    for (std::int16_t cell = 0; cell < picMat.size(); ++cell)
+    for (std::int16_t cell = 0; cell < picMat.size(); ++cell) {
+        // A press that ends beside the cells, or between them, is taken back.
+        picMat[cell].onMouseUp = [this, &form, cell](const MouseInput& in) {
+            const QWidget* under = fraScreen[0].childAt(picMat[cell].pos() + QPoint(int(in.x), int(in.y)));
+            if (under) form.picMat_MouseUp(cell, in.button, in.shift, in.x, in.y);
+        };
         picMat[cell].access = {QAccessible::ListItem, [&form, cell] { return CellInWords(form, cell); },
                                [&form, cell] { form.LockInCell(cell); },
                                [&form, cell] { return form.IsActive(cell); }};
+    }
 }

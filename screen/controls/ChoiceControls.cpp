@@ -22,12 +22,12 @@ ChoiceControls::ChoiceControls(QWidget* itsScreen) : choices(itsScreen) {
     }
     picCurrSkin.BackColor(Look::kEmptySlot);
     for (Label* heading : {&Label6, &Label7}) Dress(*heading, Text::Heading);
-    for (Label* text : {&lblSkinName, &Label13}) Dress(*text, Text::Small);
+    for (Label* text : std::initializer_list<Label*>{&lblSkinName, &Label13}) Dress(*text, Text::Small);
     DressAsLink(Label14, Links::kHomeText);
 }
 
 void ChoiceControls::ConnectChoices(frmGame& form) {
-    OnEach(picSkin, &PictureBox::onMouseUp, form, &frmGame::picSkin_MouseUp);
+    OnEach(picSkin, &PictureBox::onReleaseInside, form, &frmGame::picSkin_MouseUp);
     OnEach(picSkin, &PictureBox::onMouseMove, form, &frmGame::picSkin_MouseMove);
     OnEach(lblClass, &Label::onMouseMove, form, &frmGame::lblClass_MouseMove);
     Label14.onClick = [&form] { form.Label14_Click(); };

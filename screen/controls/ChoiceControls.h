@@ -3,7 +3,7 @@
 #include <QWidget>
 
 #include "platform/controls/Frame.h"
-#include "platform/controls/Label.h"
+#include "platform/controls/LineLabel.h"
 #include "platform/controls/PictureBox.h"
 #include "platform/controls/Shape.h"
 #include "screen/ControlArray.h"
@@ -24,7 +24,7 @@ struct ChoiceControls {
     Shape Shape1{&Picture3, {"Shape1", {180, 120, 105, 135}, ""}};
     ControlArray<PictureBox, 12> picSkin{"picSkin", Grid<12>(&Picture1, {60, 30, 585, 615}, 3, 630, 660)};
     PictureBox picCurrSkin{choices, {"picCurrSkin", {570, 2820, 525, 555}, ""}};
-    Label lblSkinName{choices, {"lblSkinName", {120, 3420, 1500, 240}, "sea"}};
+    LineLabel lblSkinName{choices, {"lblSkinName", {120, 3420, 1500, 240}, "sea"}};
     Label Label13{choices, {"Label13", {1740, 3270, 1965, 225}, "for more skins"}};
     Label Label14{choices, {"Label14", {1740, 3480, 1965, 225}, ""}};
 

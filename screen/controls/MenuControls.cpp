@@ -23,8 +23,11 @@ MenuControls::MenuControls(QWidget* window, QWidget* help)
                                {window, {5220, 1590, 585, 570}},
                                {window, {5220, 2310, 585, 555}},
                                {help, {3210, 150, 600, 330}}}}) {
-    imgButton[3].setToolTip("High Score ");
-    for (Image& button : imgButton) {
+    constexpr const char* kTips[] = {"Start a new game", "Choose a level and a skin", "How to play",
+                                     "High Score ", "Read the rules"};
+    for (int number = 0; number < imgButton.size(); ++number) {
+        Image& button = imgButton[number];
+        button.setToolTip(kTips[number]);
         MakeClickable(button);
         button.HoverPicture(WindowArt("key-hover"));
         button.PressedPicture(WindowArt("key-pressed"));

@@ -28,6 +28,7 @@ WindowControls::WindowControls(QWidget* itsWindow) : window(itsWindow) {
     Picture4.DrawFilledBox({0, 0}, {Picture4.width(), Picture4.height()}, Look::kFloor);
     picPreview.BackColor(Look::kTray);
     Dress(lblNextCard, Text::Small, kWhite);
+    prbTime.setAttribute(Qt::WA_NoMousePropagation);  // a press on it does not move the window
     shpTime.Look(Look::kBrass, QColor());
     shpRect.Look(QColor(0x40, 0x40, 0x40), QColor());
 }
