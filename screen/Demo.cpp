@@ -71,6 +71,7 @@ void frmGame::DemoMove(std::size_t step) {
 
 void frmGame::EndDemo() {
     for (PictureBox& cell : picMat) Show(cell, PicClip1.Cell(kCoverKind));
+    SetPlay(Play::Off);  // the board takes nothing until the next game
     boardCovered = true;
     for (Timer* timer : {&Timer1, &Timer2, &Timer3}) timer->Enabled(false);
 }

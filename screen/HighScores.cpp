@@ -13,6 +13,7 @@ void mdlFormFunc::InitHighScoreTable() {
 void mdlFormFunc::GameOver() {
     form_.SetPlay(frmGame::Play::Off);
     CoverBoard();
+    form_.DropInput();
     ShowNextCard(kCoverKind);
     KeepNothingAside();
     form_.Timer1.Enabled(false);
@@ -20,6 +21,13 @@ void mdlFormFunc::GameOver() {
     form_.prbTime.Value(0);
     form_.TellEnd();
     if (RowForScore(form_.lblScore.Caption())) form_.AskForName();
+}
+
+// What was pressed while the board was being covered was meant for the game, not for the name entry.
+void frmGame::DropInput() {
+    covering_ = true;
+    world_.time.DropInput();
+    covering_ = false;
 }
 
 void frmGame::TellEnd() {

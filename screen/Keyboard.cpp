@@ -1,6 +1,7 @@
 // Keyboard control: the board's own keys, and the focus order of everything else.
 
 #include <QKeyEvent>
+#include <QShortcut>
 
 #include "screen/frmGame.h"
 
@@ -21,8 +22,6 @@ std::int16_t VirtualKey(int key) {
             return kKeyRight;
         case Qt::Key_Down:
             return kKeyDown;
-        case Qt::Key_P:
-            return 80;
         default:
             return 0;
     }
@@ -43,6 +42,16 @@ void frmGame::keyPressEvent(QKeyEvent* event) {
     }
     // A key would put the script of a demonstration out of step with its board; leaving is always possible.
     if (!demoRuns_ || event->key() == Qt::Key_Escape) Form_KeyDown(key, 0);
+}
+
+// A shortcut is meant by its key: it finds the P of a Cyrillic or Greek keyboard too.
+void frmGame::ConnectPauseKey() {
+    auto* pause = new QShortcut(this);
+    pause->setKeys({Qt::Key_P, Qt::SHIFT | Qt::Key_P});
+    pause->setAutoRepeat(false);
+    connect(pause, &QShortcut::activated, this, [this] {
+        if (BoardTakesKeys() && !demoRuns_) Form_KeyDown(kKeyPause, 0);
+    });
 }
 
 // From the menu through the screen that is shown to the links and the corner. A hidden control is passed

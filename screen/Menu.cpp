@@ -31,14 +31,16 @@ void frmGame::imgButton_MouseUp(std::int16_t Index, std::int16_t, std::int16_t, 
 
 void frmGame::imgButton_Click(std::int16_t Index) {
     if (Index < kPlay || Index > kMore) return;
+    const int click = ++clicks_;
     world_.random.Reseed();
     ShowScreen(Index == kMore ? kHelp : Index);
     Timer1.Enabled(false);
     Timer2.Enabled(false);
     lblNextCard.Visible(false);
     StopDemo = true;
-    if (const QString failure = RunAction(Index); !failure.isEmpty())
-        return world_.dialogs.Tell(this, failure);
+    const QString failure = RunAction(Index);
+    if (click != clicks_) return;
+    if (!failure.isEmpty()) return world_.dialogs.Tell(this, failure);
     Highlight(Index);
     mdlSound::PlayWave(mdlSound::Wave(111));
 }
@@ -72,12 +74,12 @@ QString frmGame::RunAction(std::int16_t menu) {
 }
 
 QString frmGame::StartGame() {
-    FinishSkinSlots();
+    SetPlay(Play::Off);  // if nothing is dealt, the board takes no keys until a game starts
     for (PictureBox& cell : picMat) cell.Enabled(true);
-    if (QString failure = LoadSkin(); !failure.isEmpty()) {
-        SetPlay(Play::Off);  // nothing is dealt: the board takes no keys until a game starts
-        return failure;
-    }
+    const int click = clicks_;
+    FinishSkinSlots();
+    QString failure = click == clicks_ ? LoadSkin() : QString();
+    if (click != clicks_ || !failure.isEmpty()) return failure;
     prbTime.Value(0);
     Game().CardsUsed(0);
     Game().CardSum(kCardsInGame);

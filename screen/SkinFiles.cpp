@@ -58,15 +58,13 @@ void RemoveLeftovers(const QDir& folder) {
 
 }  // namespace
 
-InstalledSkin InstallSkin(const QString& source, const QString& folder, const QString& replaced) {
-    QString why;
-    const auto sheet = PictureSheet::Load(source, why);
-    if (!sheet) return {{}, why};
+InstalledSkin InstallSkin(const PictureSheet& sheet, const QString& source, const QString& folder,
+                          const QString& replaced) {
     const QDir art(folder);
     art.mkpath(QStringLiteral("."));
     RemoveLeftovers(art);
     const QString name = FreeName(art, VisibleName(source), replaced);
-    if (!Put(art, name, sheet->Bytes()))
+    if (!Put(art, name, sheet.Bytes()))
         return {{}, QStringLiteral("\"%1\" could not be written into %2.").arg(name, folder)};
     // The same name in another case is another file here, and a slot must not have two.
     if (!replaced.isEmpty() && replaced != name) QFile::remove(art.filePath(replaced));

@@ -1,5 +1,6 @@
 // The skins: which files fill the slots, the choice of one, and the picture set a game is played with.
 
+#include "screen/Look.h"
 #include "screen/SkinFiles.h"
 #include "screen/frmGame.h"
 #include "shell/mdlSound.h"
@@ -10,6 +11,13 @@ const QString kSkinFolder = QStringLiteral("\\Art\\");
 constexpr int kSlotFrameWidth = 2;
 constexpr QPoint kThumbnailCorner(-12, -12);  // the cell's outer edge is cut off in the slot
 constexpr QPoint kChosenCorner(-2, -2);
+
+constexpr auto kToNotice = std::chrono::seconds(3);  // that the time is up: a decoder reads now and then
+
+// A dash in its middle: its skin has not been read yet.
+void DrawWaiting(PictureBox& slot) {
+    slot.DrawFilledBox({12, 19}, {27, 22}, Look::kLevel);
+}
 
 void DrawFrame(PictureBox& slot, Colour colour) {
     slot.DrawWidth(kSlotFrameWidth);
@@ -24,9 +32,23 @@ void frmGame::FillSkinSlots() {
         if (SkinCount == picSkin.size()) break;
         if (!WhyNotASheet(world_.folder.Path(kSkinFolder + file)).isEmpty()) continue;
         skinFile[SkinCount] = file;
+        DrawWaiting(picSkin[SkinCount]);
         ++SkinCount;
     }
     picSkin_MouseUp(0, 0, 0, 0, 0);
+}
+
+// In a thread of its own: the window stays alive, so anything may have happened when this returns.
+std::shared_ptr<PictureSheet> frmGame::LoadSheet(const QString& path, QString& why) {
+    struct Result {
+        std::shared_ptr<PictureSheet> sheet;
+        QString why;
+    };
+    const auto result = std::make_shared<Result>();
+    const auto load = [result, path] { result->sheet = PictureSheet::Load(path, result->why); };
+    const bool ended = world_.time.InBackground(load, kMostDecoding + kToNotice);
+    why = ended ? result->why : WhyTooSlow(path);
+    return ended ? result->sheet : nullptr;
 }
 
 // Decoding takes far longer than showing the window, so it is deferred until after the first paint.
@@ -34,58 +56,59 @@ void frmGame::FinishSkinSlots() {
     if (skinsFinished_ || unloaded_) return;  // a window may be closed right after its first paint
     skinsFinished_ = true;
     for (std::int16_t slot = 0; slot < SkinCount;) {
-        const QString path = world_.folder.Path(kSkinFolder + skinFile[slot]);
-        if (!PicClipTemp.Load(path).isEmpty()) {
+        const QString file = skinFile[slot], path = world_.folder.Path(kSkinFolder + file);
+        QString why;
+        const auto sheet = LoadSheet(path, why);
+        if (unloaded_) return;
+        if (skinFile[slot] != file) continue;  // another was dropped there meanwhile
+        if (sheet)
+            ShowInSlot(slot++, *sheet);
+        else
             CloseUpSlot(slot);
-            continue;
-        }
-        picSkin[slot].PaintPicture(PicClipTemp.Thumbnail(), kThumbnailCorner);
-        PicClipTemp = {};  // the other cards of a skin are not needed for its slot
-        ++slot;
+        if (why == WhyTooSlow(path)) world_.dialogs.Tell(this, why);
     }
     OrderSkinSlots();
-    ChooseSkin(0);
+    SkinCount > 0 ? ChooseSkin(std::min<std::int16_t>(CurrentSkin, SkinCount - 1)) : ChooseNoSkin();
 }
 
-// Makes slot `slot` that of the skin `file`, which lies in the skin folder; the first empty slot comes into
-// use.
-void frmGame::FillSlot(std::int16_t slot, const QString& file) {
-    if (!PicClipTemp.Load(world_.folder.Path(kSkinFolder + file)).isEmpty()) return;
-    skinFile[slot] = file;
-    PictureBox& box = picSkin[slot];
-    box.Clear();
-    box.PaintPicture(PicClipTemp.Thumbnail(), kThumbnailCorner);
-    PicClipTemp = {};
-    if (slot >= SkinCount && SkinCount < picSkin.size()) ++SkinCount;
-    OrderSkinSlots();
+void frmGame::ShowInSlot(std::int16_t slot, const PictureSheet& sheet) {
+    picSkin[slot].Clear();
+    picSkin[slot].PaintPicture(sheet.Thumbnail(), kThumbnailCorner);
 }
 
 void frmGame::picSkin_OLEDragDrop(std::int16_t& Index, const QString& Data, std::int32_t&, std::int16_t,
                                   std::int16_t, float, float) {
     if (Index < 0 || Index >= picSkin.size()) return;
     FinishSkinSlots();
+    QString why;
+    const auto sheet = LoadSheet(Data, why);
+    if (unloaded_) return;
+    if (!sheet) return world_.dialogs.Tell(this, why);
     Index = std::min(Index, SkinCount);
     const QString folder = world_.folder.Path(kSkinFolder);
     QString name = NameInFolder(Data, folder);
     if (const qsizetype known = name.isEmpty() ? -1 : skinFile.indexOf(name); known >= 0)
         Index = static_cast<std::int16_t>(known);
-    else if (name.isEmpty() && (name = Install(Data, folder, Index)).isEmpty())
+    else if (name.isEmpty() && (name = Install(*sheet, Data, folder, Index)).isEmpty())
         return;
-    FillSlot(Index, name);
+    // The slot becomes that of the skin; the first empty one comes into use.
+    skinFile[Index] = name;
+    ShowInSlot(Index, *sheet);
+    if (Index >= SkinCount && SkinCount < picSkin.size()) ++SkinCount;
+    OrderSkinSlots();
     picSkin_MouseUp(Index, 0, 0, 0, 0);
     picSkin_MouseMove(Index, 0, 0, 0, 0);
 }
 
 // The name under which the dropped file came into the skin folder; empty when the player was told why not, or
 // would not have the old skin replaced.
-QString frmGame::Install(const QString& dropped, const QString& folder, std::int16_t slot) {
-    if (const QString why = WhyNotASheet(dropped); !why.isEmpty())
-        return world_.dialogs.Tell(this, why), QString();
+QString frmGame::Install(const PictureSheet& sheet, const QString& dropped, const QString& folder,
+                         std::int16_t slot) {
     if (slot < SkinCount &&
         !world_.dialogs.Ask(this, QStringLiteral("Are You Sure You want To Replace This Skin !")))
         return {};
     const QString replaced = slot < SkinCount ? skinFile[slot] : QString();
-    const InstalledSkin installed = InstallSkin(dropped, folder, replaced);
+    const InstalledSkin installed = InstallSkin(sheet, dropped, folder, replaced);
     if (!installed.problem.isEmpty()) world_.dialogs.Tell(this, installed.problem);
     return installed.name;
 }
@@ -93,7 +116,12 @@ QString frmGame::Install(const QString& dropped, const QString& folder, std::int
 void frmGame::CloseUpSlot(std::int16_t slot) {
     skinFile.removeAt(slot);
     skinFile.append(QString());
+    for (std::int16_t later = slot; later < SkinCount; ++later) {
+        picSkin[later].Clear();
+        if (later + 1 < SkinCount) DrawWaiting(picSkin[later]);
+    }
     --SkinCount;
+    if (slot < CurrentSkin) --CurrentSkin;
 }
 
 void frmGame::picSkin_MouseMove(std::int16_t Index, std::int16_t, std::int16_t, float, float) {
@@ -122,9 +150,17 @@ void frmGame::ChooseSkin(std::int16_t slot) {
     DrawFrame(box, kRed);
 }
 
+void frmGame::ChooseNoSkin() {
+    picSkin[CurrentSkin].Clear();
+    picCurrSkin.Clear();
+    Game().SetSkinPicture({});
+    lblSkinName.Caption({});
+}
+
 QString frmGame::LoadSkin() {
     const QString name = QString::fromStdString(Game().SetSkinPicture());
-    if (!name.isEmpty()) return PicClip1.Load(world_.folder.Path(kSkinFolder + name));
+    const auto load = [this](const QString& path, QString& why) { return LoadSheet(path, why); };
+    if (!name.isEmpty()) return PicClip1.Load(world_.folder.Path(kSkinFolder + name), load);
     return QStringLiteral("No skins were found. A skin is a picture of 3 x 13 cards; put one in %1.")
         .arg(world_.folder.Path(kSkinFolder));
 }

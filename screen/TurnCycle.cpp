@@ -12,7 +12,6 @@
 namespace {
 
 constexpr std::int16_t kKeyEscape = 27;
-constexpr std::int16_t kKeyPause = 80;    // the letter P, small or capital
 constexpr std::int32_t kBarTicks = 50;    // ticks of the time bar in a lock time
 constexpr std::int32_t kRunningOut = 75;  // percent of it that are told
 

@@ -32,6 +32,7 @@ frmGame::frmGame(World world)
     ConnectScores(*this);
     ConnectMenu(*this);
     ConnectNameEntry(*this);
+    ConnectPauseKey();
     OrderControls();
     Form_Load();
     narrator_ = std::make_unique<Narrator>(*this);
@@ -43,6 +44,7 @@ void frmGame::Form_Load() {
     formFunc_.InitHighScoreTable();
     mdlSound::LoadWaves();
     WindowShape::Apply(*this);
+    WindowShape::KeepOnScreens(*this);
     lblCaption[2].ForeColor(Look::kLitCaption);
     CurrentMenu = 2;
     lblHelpText1.Caption(
@@ -82,9 +84,10 @@ void frmGame::LayScreens() {
 void frmGame::Form_Unload(std::int16_t& /*Cancel*/) {
     StopDemo = true;
     unloaded_ = true;
+    ++clicks_;
     Timer1.Enabled(false);
     Timer2.Enabled(false);
-    if (!demoRuns_) game_.reset();
+    if (!demoRuns_ && !covering_) game_.reset();
 }
 
 void frmGame::SetPlay(Play now) {

@@ -24,6 +24,8 @@
 class Narrator;
 class frmInfo;
 
+inline constexpr std::int16_t kKeyPause = 80;  // the virtual-key code of the letter P
+
 // The program's one game window: the board, the menu bar and four screens that replace one another in the
 // same place. Its handlers are public and callable directly, with made-up arguments too: an index outside a
 // control array does nothing, unless the handler says otherwise.
@@ -128,6 +130,7 @@ public:
     // Tell assistive technology of a lock (where the time put the card, the points of a line) and of the end.
     void TellLock();
     void TellEnd();
+    void DropInput();
 
     // What the board shows: whether a locked card lies in `cell`, whether the active card is there, and in
     // which cell that is, -1 for none.
@@ -148,7 +151,7 @@ private:
 public:
     FocusRing focusRing{this};
 
-    PictureClip PicClip1, PicClipTemp;
+    PictureClip PicClip1;
     Timer Timer1{world_.time, [this] { Timer1_Timer(); }};
     Timer Timer2{world_.time, [this] { Timer2_Timer(); }};
     Timer Timer3{world_.time, [] {}, 400};
@@ -165,6 +168,7 @@ private:
     void LayScreens();
 
     // Which controls take the keyboard, and in what order (Keyboard.cpp).
+    void ConnectPauseKey();
     void OrderControls();
     void OrderSkinSlots();
     [[nodiscard]] bool BoardTakesKeys() const;
@@ -193,9 +197,12 @@ private:
     void ShowInfo();
 
     void ChooseSkin(std::int16_t slot);
+    void ChooseNoSkin();
+    std::shared_ptr<PictureSheet> LoadSheet(const QString& path, QString& why);
+    void ShowInSlot(std::int16_t slot, const PictureSheet& sheet);
     void CloseUpSlot(std::int16_t slot);
-    void FillSlot(std::int16_t slot, const QString& file);
-    QString Install(const QString& dropped, const QString& folder, std::int16_t slot);
+    QString Install(const PictureSheet& sheet, const QString& dropped, const QString& folder,
+                    std::int16_t slot);
 
     mdlFormFunc formFunc_{*this};
     std::unique_ptr<clsCard> game_;
@@ -203,8 +210,10 @@ private:
     bool timeIsUp_ = false;      // the lock that goes on is the time's, and not told yet
     bool timersPaused_ = false;  // the pause stopped running timers, so a resume starts them again
     bool skinsFinished_ = false;
+    int clicks_ = 0;  // of menu buttons, to find out whether another came while a skin was read
     Recording recording_;
     bool demoRuns_ = false;
+    bool covering_ = false;  // the end of a game covers the board, from within the model
     bool unloaded_ = false;  // the model has gone, or goes when the demonstration that runs has unwound
     std::unique_ptr<frmInfo> info_;
     std::unique_ptr<Narrator> narrator_;

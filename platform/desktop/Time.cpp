@@ -2,8 +2,10 @@
 
 #include <QBasicTimer>
 #include <QCoreApplication>
+#include <QEventLoop>
 #include <QObject>
 #include <QThread>
+#include <QTimer>
 
 namespace {
 
@@ -23,6 +25,14 @@ private:
     QBasicTimer timer_;
 };
 
+struct InputFilter final : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+        const auto type = event->type();
+        return type == QEvent::KeyPress || type == QEvent::KeyRelease || type == QEvent::MouseButtonPress ||
+               type == QEvent::MouseButtonRelease || type == QEvent::MouseButtonDblClick;
+    }
+};
+
 }  // namespace
 
 void RealTime::Wait(std::chrono::milliseconds duration) {
@@ -31,6 +41,27 @@ void RealTime::Wait(std::chrono::milliseconds duration) {
 
 void RealTime::ProcessEvents() {
     QCoreApplication::processEvents();
+}
+
+void RealTime::DropInput() {
+    InputFilter filter;
+    QCoreApplication::instance()->installEventFilter(&filter);
+    QCoreApplication::processEvents();
+}
+
+bool RealTime::InBackground(std::function<void()> work, std::chrono::milliseconds most) {
+    QThread* const thread = QThread::create(std::move(work));
+    QEventLoop loop;
+    bool ended = false;
+    QObject::connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    QObject::connect(thread, &QThread::finished, &loop, [&] {
+        ended = true;
+        loop.quit();
+    });
+    QTimer::singleShot(most, &loop, &QEventLoop::quit);
+    thread->start();
+    loop.exec();
+    return ended;
 }
 
 QDate RealTime::Today() const {

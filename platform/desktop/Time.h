@@ -23,6 +23,11 @@ public:
     virtual void Wait(std::chrono::milliseconds duration) = 0;
     // Lets what is pending run: input, paints, due alarms.
     virtual void ProcessEvents() = 0;
+    // Handles what is pending, but drops the input of the player.
+    virtual void DropInput() = 0;
+    // Runs `work` in a thread of its own while events are handled here; true when it has ended. After `most`
+    // it goes on without anyone waiting, so it must own what it uses.
+    virtual bool InBackground(std::function<void()> work, std::chrono::milliseconds most) = 0;
     // Today's date where the player is.
     [[nodiscard]] virtual QDate Today() const = 0;
     // An alarm, stopped at first, that calls `due`. It must not outlive this.
@@ -34,6 +39,8 @@ class RealTime final : public Time {
 public:
     void Wait(std::chrono::milliseconds duration) override;
     void ProcessEvents() override;
+    void DropInput() override;
+    bool InBackground(std::function<void()> work, std::chrono::milliseconds most) override;
     [[nodiscard]] QDate Today() const override;
     [[nodiscard]] std::unique_ptr<Alarm> NewAlarm(std::function<void()> due) override;
 };

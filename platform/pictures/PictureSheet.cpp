@@ -2,11 +2,13 @@
 
 #include <malloc.h>
 
-#include <QBuffer>
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPainter>
+#include <QtEndian>
+#include <algorithm>
 #include <new>
 
 namespace {
@@ -18,40 +20,81 @@ QString Sentence(const QString& path, const QString& what) {
 QString WhyNotThisSize(const QSize& size) {
     if (!size.isValid()) return QStringLiteral("is not a picture the game can read.");
     const QString pixels = QStringLiteral("is %1 x %2 pixels; ").arg(size.width()).arg(size.height());
-    if (size.isEmpty() || size.width() % kSheetColumns != 0 || size.height() % kSheetRows != 0)
-        return pixels + QStringLiteral(
-                            "a skin has 3 x 13 cells, so its width must be a multiple of 3 and its "
-                            "height a multiple of 13.");
+    if (size.width() < kSheetColumns || size.height() < kSheetRows)
+        return pixels + QStringLiteral("a skin has 3 x 13 cells, so it has at least 3 x 13 pixels.");
     if (qint64{size.width()} * size.height() > kMostSheetPixels)
         return pixels + QStringLiteral("a skin has at most 16 million pixels.");
     return {};
 }
 
-// Qt accepts truncated JPEGs, so look for the end-of-image marker.
-bool IsCutShort(const QByteArray& format, const QByteArray& bytes) {
-    return format == "jpeg" && !bytes.last(qMin<qsizetype>(bytes.size(), 64)).contains("\xFF\xD9");
+// The pixels of a plain BMP, all of them, lie where its head says; a packed one has an end mark.
+bool HasAllRows(const QByteArray& bytes) {
+    const auto number = [&bytes](qsizetype at) {
+        return qint64{qFromLittleEndian<qint32>(bytes.data() + at)};
+    };
+    if (bytes.size() < 34) return false;
+    const qint64 row = (number(18) * (number(28) % 65536) + 31) / 32 * 4;
+    const bool packed = number(30) == 1 || number(30) == 2;
+    return packed ? bytes.endsWith(QByteArray("\0\1", 2))
+                  : number(10) + row * qAbs(number(22)) <= bytes.size();
 }
 
-// Qt reports a failed allocation only as a null image.
+// Qt accepts some truncated pictures, so look for the end that their formats prescribe.
+bool IsCutShort(const QByteArray& format, const QByteArray& bytes) {
+    const QByteArray tail = bytes.last(qMin<qsizetype>(bytes.size(), 64));
+    if (format == "jpeg") return !tail.contains("\xFF\xD9");
+    if (format == "gif") return !tail.endsWith(';');
+    if (format == "xbm" || format == "xpm") return !tail.trimmed().endsWith("};");
+    return format == "bmp" && !HasAllRows(bytes);
+}
+
+// The bytes of a picture, which run dry when their time is up: that ends any decoder, without ending a
+// thread.
+class ExpiringBytes final : public QIODevice {
+public:
+    ExpiringBytes(const QByteArray& bytes, QDeadlineTimer end) : bytes_(bytes), end_(end) {
+        open(QIODevice::ReadOnly | QIODevice::Unbuffered);
+    }
+    qint64 size() const override { return bytes_.size(); }
+
+protected:
+    qint64 readData(char* to, qint64 most) override {
+        if (end_.hasExpired()) return -1;
+        const qint64 count = qMin(most, size() - pos());
+        std::copy_n(bytes_.data() + pos(), count, to);
+        return count;
+    }
+    qint64 writeData(const char*, qint64) override { return -1; }
+
+private:
+    QByteArray bytes_;
+    QDeadlineTimer end_;
+};
+
 QImage Allocated(QImage image) {
     if (image.isNull()) throw std::bad_alloc();
     return image;
 }
 
 // Throws when there is no memory; a null image is one that cannot be read.
-QImage Decode(const QByteArray& bytes) {
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer);
+QImage Decode(const QByteArray& bytes, QDeadlineTimer end) {
+    ExpiringBytes device(bytes, end);
+    QImageReader reader(&device);
     if (!WhyNotThisSize(reader.size()).isEmpty() || IsCutShort(reader.format(), bytes)) return {};
     // Allocate first: QImageReader does not distinguish out of memory from a damaged picture.
     (void)Allocated(QImage(reader.size(), QImage::Format_ARGB32));
-    return reader.read();
+    const QImage image = reader.read();
+    return end.hasExpired() ? QImage() : image;  // a device that runs dry passes for the end of a JPEG
 }
 
+// Edges that fall between two pixels are rounded, so the cells cover the sheet without a gap or an overlap.
 QRect CellRect(const QSize& sheet, int cell) {
-    const QSize size(sheet.width() / kSheetColumns, sheet.height() / kSheetRows);
-    return {QPoint(cell % kSheetColumns * size.width(), cell / kSheetColumns * size.height()), size};
+    const auto edge = [](int length, int number, int of) { return qRound(1.0 * length * number / of); };
+    const int column = cell % kSheetColumns, row = cell / kSheetColumns;
+    const int left = edge(sheet.width(), column, kSheetColumns);
+    const int top = edge(sheet.height(), row, kSheetRows);
+    return {left, top, edge(sheet.width(), column + 1, kSheetColumns) - left,
+            edge(sheet.height(), row + 1, kSheetRows) - top};
 }
 
 QImage Fit(const QImage& cell, qreal scale) {
@@ -89,6 +132,10 @@ QString WhyNotASheet(const QString& path) {
     return why.isEmpty() ? why : Sentence(path, why);
 }
 
+QString WhyTooSlow(const QString& path) {
+    return Sentence(path, QStringLiteral("takes too long to read."));
+}
+
 std::shared_ptr<PictureSheet> PictureSheet::Load(const QString& path, QString& why) {
     why = WhyNotASheet(path);
     if (!why.isEmpty()) return nullptr;
@@ -107,9 +154,11 @@ std::shared_ptr<PictureSheet> PictureSheet::Load(const QString& path, QString& w
 
 std::shared_ptr<PictureSheet> PictureSheet::FromBytes(const QByteArray& bytes, const QString& path,
                                                       QString& why) {
-    const QImage sheet = Decode(bytes);
+    const QDeadlineTimer end(kMostDecoding);
+    const QImage sheet = Decode(bytes, end);
     if (sheet.isNull()) {
-        why = Sentence(path, QStringLiteral("is damaged or incomplete."));
+        why =
+            end.hasExpired() ? WhyTooSlow(path) : Sentence(path, QStringLiteral("is damaged or incomplete."));
         return nullptr;
     }
     std::shared_ptr<PictureSheet> loaded(new PictureSheet(bytes));
@@ -128,7 +177,8 @@ PictureSheet::~PictureSheet() {
 
 QImage PictureSheet::Render(int cell, qreal scale) const {
     if (cell < 0 || cell >= kSheetCells) return {};
-    if (cells_.empty() || cells_.front().devicePixelRatio() != scale) Cut(Decode(bytes_), scale);
+    if (cells_.empty() || cells_.front().devicePixelRatio() != scale)
+        Cut(Decode(bytes_, QDeadlineTimer(kMostDecoding)), scale);
     return cells_[static_cast<std::size_t>(cell)];
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <chrono>
 #include <vector>
 
 #include "platform/pictures/Picture.h"
@@ -17,6 +18,12 @@ inline constexpr qint64 kMostSheetBytes = qint64{64} * 1024 * 1024;
 // A cell is fitted to a square of this many logical pixels.
 inline constexpr int kCellPixels = 60;
 
+// The most time decoding may take: ten times what the largest PNG took where the limit was chosen.
+inline constexpr std::chrono::milliseconds kMostDecoding{5000};
+
+// What the player is told of a file for which that was not enough.
+[[nodiscard]] QString WhyTooSlow(const QString& path);
+
 // Why the file `path` cannot be a picture set, as one sentence for the player that names the file; empty when
 // it can, as far as its head tells. Reads no more than the head.
 [[nodiscard]] QString WhyNotASheet(const QString& path);
@@ -25,7 +32,7 @@ inline constexpr int kCellPixels = 60;
 // the bytes of the file, so that a picture in use outlives its file and can be drawn again at another scale.
 class PictureSheet final : public PictureSource {
 public:
-    // The sheet in the file `path`, or null and the sentence for the player in `why`.
+    // The sheet in the file `path`, or null and the sentence for the player in `why`. Any thread.
     [[nodiscard]] static std::shared_ptr<PictureSheet> Load(const QString& path, QString& why);
 
     ~PictureSheet() override;

@@ -2,10 +2,13 @@
 
 #include <QCoreApplication>
 
+#include "platform/pictures/PictureSheet.h"
 #include "screen/SkinFiles.h"
 
 int main(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     const auto argument = [argv](int i) { return QString::fromLocal8Bit(argv[i]); };
-    return InstallSkin(argument(1), argument(2), argument(3)).problem.isEmpty() ? 0 : 1;
+    QString why;
+    const auto sheet = PictureSheet::Load(argument(1), why);
+    return sheet && InstallSkin(*sheet, argument(1), argument(2), argument(3)).problem.isEmpty() ? 0 : 1;
 }

@@ -48,9 +48,7 @@ TEST(InstalledSkins, ComeOnceAndLeaveTheUsersOwn) {
     Do(root.path(), "=i/Res/a.txt +h/own/Res/a.txt +h/own/Art/Sea.PNG +h/own/Art/sea.png");
     for (const auto& [name, path] : {std::pair{"\\art\\sea.png", "h/own/Art/sea.png"},
                                      {"\\Art\\Sea.PNG", "h/own/Art/Sea.PNG"},
-                                     {"\\Art\\gone.png", "h/own/Art/gone.png"},
                                      {"\\res\\Rules.txt", "i/Res/rules.txt"},
-                                     {"\\array.txt", "h/own/array.txt"},
                                      {"\\Res\\a.txt", "h/own/Res/a.txt"}})
         EXPECT_EQ(start().Path(name), root.filePath(path));
 }

@@ -128,6 +128,8 @@ TEST(Looks, TextKeepsItsPlaceAndColour) {
     LineLabel line(&window, {"line", {0, 0, 1500, 900}, QString("l\x1\n").repeated(30)});
     line.ForeColor(kRed), line.show(), label.hide();
     EXPECT_TRUE(ink().height() < 20 && ink().right() > 80 && line.Caption().size() == 90);
+    line.Caption("a  b");
+    EXPECT_EQ(line.Shown(), "a  b");
 }
 
 // After each letter: whether the label is seen down or up, and "!" for a click that found it up. The letters
@@ -202,10 +204,10 @@ TEST(Sheets, OfAnySizeAreCutIntoFittedCellsAndReadAgainWhenTheyChange) {
     const QString path = folder.filePath("sheet.png");
     PictureClip clip;
     EXPECT_TRUE(clip.Cell(0).IsEmpty() && clip.Thumbnail().IsEmpty());
-    for (const QSize cell : {QSize(1, 1), QSize(33, 16), QSize(180, 180), QSize(10, 20)}) {
+    for (const QSize size : {QSize(3, 13), QSize(99, 208), QSize(541, 2341), QSize(30, 260)}) {
         QImage sheet(3, 13, QImage::Format_RGB32);  // its cells are told apart by red and green
         for (int i = 0; i < 39; ++i) sheet.setPixel(i % 3, i / 3, qRgb(i % 3 * 100, i / 3 * 15, 50));
-        sheet.scaled(3 * cell.width(), 13 * cell.height()).save(path);
+        sheet.scaled(size).save(path);
         ASSERT_EQ(clip.Load(path), "");
         const Picture first = clip.Cell(0);
         EXPECT_EQ(clip.Load(path), "");
@@ -213,8 +215,8 @@ TEST(Sheets, OfAnySizeAreCutIntoFittedCellsAndReadAgainWhenTheyChange) {
         for (const int number : {0, 19, 38}) {
             const QImage image = clip.Cell(number).At(2);
             EXPECT_EQ(image.pixel(60, 60), qRgb(number % 3 * 100, number / 3 * 15, 50)) << number;
-            EXPECT_EQ(qAlpha(image.pixel(0, 60)) == 255, cell.width() >= cell.height());
-            EXPECT_EQ(qAlpha(image.pixel(60, 119)) == 255, cell.width() <= cell.height());
+            EXPECT_EQ(qAlpha(image.pixel(0, 60)) == 255, 13 * size.width() >= 3 * size.height());
+            EXPECT_EQ(qAlpha(image.pixel(60, 119)) == 255, 13 * size.width() <= 3 * size.height() + 99);
         }
         EXPECT_TRUE(clip.Cell(39).At(1).isNull() && clip.Cell(-1).At(1).isNull());
         EXPECT_EQ(clip.Thumbnail().At(1.5).pixelColor(45, 45), QColor(0, 0, 50));

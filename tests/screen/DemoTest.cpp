@@ -40,6 +40,8 @@ TEST(Demo, PlaysTheSameGameWhateverHappensMeanwhile) {
         EXPECT_FALSE(game.Cell(cell).isEnabled());
     }
     EXPECT_FALSE(form.Timer1.Enabled() || form.Timer2.Enabled());
+    game.Lock();
+    EXPECT_EQ(game.Model().CardsUsed(), 46) << "played on";
     form.imgButton_Click(0);
     EXPECT_TRUE(game.Cell(12).isEnabled());
 }

@@ -23,10 +23,6 @@ TEST(Game, MovesTheTimeBarWithTheLevel) {
         game.Lock();
         game.time.Pass(pass);
         EXPECT_EQ(game.form->prbTime.Value(), value) << what;
-        game.RightClick(), game.RightClick();
-        EXPECT_EQ(game.form->prbTime.Value(), 0) << what;
-        game.time.Pass(pass);
-        EXPECT_EQ(game.form->prbTime.Value(), value) << what << ", after a pause";
     }
 }
 
@@ -71,20 +67,39 @@ TEST(Game, MouseMovesOnceIntoACellAndLocksWhereTheCardIs) {
         EXPECT_EQ(game.Model().CardAt(static_cast<std::int16_t>(cell)).Number, kind);
 }
 
+// A press is taken back beside the cells; P is a key and not a letter, and does not repeat.
+TEST(Game, AnswersTheReleaseOfAButtonAndThePressOfAKey) {
+    GameWindow game;
+    frmGame& form = *game.form;
+    form.show(), form.activateWindow();
+    QCoreApplication::processEvents();
+    game.PlayKinds({0, 16, 32});
+    for (const auto& [at, cards] :
+         {std::pair(QPoint(-20, 10), 0), {QPoint(65, 10), 0}, {QPoint(80, 10), 1}}) {
+        QTest::mousePress(&form.picMat[0], Qt::LeftButton, {}, QPoint(9, 9));
+        QTest::mouseRelease(&form.picMat[0], Qt::LeftButton, {}, at);
+        EXPECT_EQ(game.Model().CardsInMatrix(), cards);
+    }
+    for (const bool repeat : {false, true})
+        QTest::simulateEvent(form.windowHandle(), true, Qt::Key_P, {}, "p", repeat);
+    EXPECT_EQ(form.play, frmGame::Play::Paused);
+    const QPoint corner = form.pos();
+    QTest::mousePress(&form.prbTime, Qt::LeftButton);
+    QTest::mouseMove(&form, QPoint(200, 9));
+    EXPECT_EQ(form.pos(), corner);
+}
+
 TEST(Game, MadeUpArgumentsDoNoHarm) {
     GameWindow game;
     game.PlayKinds({0, 16, 32});
     for (const std::int16_t index : std::initializer_list<std::int16_t>{-1, 16, 100, 32767, -32768}) {
-        game.form->picMat_MouseMove(index, 0, 0, 0, 0);
-        game.form->imgButton_Click(index);
-        game.form->imgButton_MouseDown(index, 1, 0, 0, 0);
-        game.form->lblClass_Click(index);
-        game.form->lblClass_MouseMove(index, 0, 0, 0, 0);
-        game.form->picSkin_MouseMove(index, 0, 0, 0, 0);
+        for (const auto handler : {&frmGame::picMat_MouseMove, &frmGame::imgButton_MouseDown,
+                                   &frmGame::lblClass_MouseMove, &frmGame::picSkin_MouseMove})
+            (*game.form.*handler)(index, 1, 0, 0, 0);
+        game.form->imgButton_Click(index), game.form->lblClass_Click(index);
         game.form->picSkin_MouseUp(index, 1, 0, 0, 0);
     }
-    EXPECT_EQ(game.Model().PosCurrentCard(), 12);
-    EXPECT_TRUE(game.form->fraScreen[0].Visible());
+    EXPECT_TRUE(game.Model().PosCurrentCard() == 12 && game.form->fraScreen[0].Visible());
 }
 
 }  // namespace

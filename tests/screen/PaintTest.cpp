@@ -1,7 +1,6 @@
 // The window on screens of every usual scale and one that no picture was drawn for, and what of the time bar
 // is painted anew.
 
-#include <QPainter>
 #include <QScreen>
 #include <QWindow>
 
@@ -49,15 +48,4 @@ TEST(Paint, OfTheTimeBarCoversTheRowsThatATickFills) {
         EXPECT_EQ(watch.painted, rows);
         EXPECT_EQ(bar.grab().toImage().pixel(19, value - 2), 0xFFE0E0E0);
     }
-}
-
-// What is filled stays inside the border; the high byte is no colour.
-TEST(Paint, OnASurfaceStaysInsideItsBorder) {
-    BarSurface surface;
-    surface.BorderStyle(1), surface.Resize(QSize(60, 40), 1);
-    QImage expected(60, 40, QImage::Format_RGB32);
-    expected.fill(Qt::black);
-    QPainter(&expected).fillRect(QRect(1, 1, 58, 38), QColor(0x12, 0x34, 0x56));
-    surface.FillRect({-5, -5, 500, 500}, 0x7F563412);
-    EXPECT_EQ(surface.Pixels(), expected);
 }

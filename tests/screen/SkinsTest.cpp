@@ -1,9 +1,7 @@
 // Which files fill the slots, what becomes of dropped ones, and that none is ever lost.
 
 #include <QBuffer>
-#include <QDropEvent>
 #include <QMimeData>
-#include <QUrl>
 
 #include "tests/support/GameWindow.h"
 
@@ -43,19 +41,24 @@ struct Skins : testing::Test, GameWindow {
 };
 
 TEST_F(Skins, ThatAreNoneTakeNoSlotAndAreRefused) {
-    const QByteArray png = Encoded({300, 1300}), jpeg = Encoded({300, 1300}, "JPEG");
-    const std::tuple<QString, QByteArray, QString> files[] = {
+    std::vector<std::tuple<QString, QByteArray, QString>> files{
         {"gone.png", {}, "was not found."},
         {"folder.png", {}, "was not found."},
         {"pipe.png", {}, "was not found."},
         {"text.png", "this is no picture", "is not a picture the game can read."},
-        {"half.png", png.first(png.size() / 2), "is damaged or incomplete."},
-        {"half.jpg", jpeg.chopped(2), "is damaged or incomplete."},
         {"narrow.png", Encoded({2, 13}), "is 2 x 13 pixels; a skin has 3 x 13 cells"},
         {"low.png", Encoded({3, 12}), "is 3 x 12 pixels; a skin has 3 x 13 cells"},
         {"large.png", Encoded({4002, 4004}), "is 4002 x 4004 pixels; a skin has at most 16 million pixels."},
         {"long.png", {}, "is larger than 64 megabytes, the most a skin may have."},
     };
+    const QByteArray gif =
+        QByteArray::fromBase64("R0lGODlhAwANAPAAAP8AAAAAACH5BAAAAAAALAAAAAADAA0AAAIFhI+py1cAOw==");
+    std::map<QByteArray, QByteArray> whole{{"gif", gif}};
+    for (const char* format : {"png", "jpg", "bmp", "ppm", "xbm", "xpm"})
+        whole[format] = Encoded({300, 1300}, format);
+    for (const auto& [format, bytes] : whole)
+        files.emplace_back("half." + format, bytes.first(std::max<qsizetype>(bytes.size() / 2, 44)),
+                           "is damaged or incomplete.");
     const auto make = [&files](const QDir& folder) {
         for (const auto& [name, bytes, told] : files) WriteFile(folder.filePath(name), bytes);
         for (const char* none : {"gone.png", "folder.png", "pipe.png"}) QFile::remove(folder.filePath(none));
@@ -68,20 +71,42 @@ TEST_F(Skins, ThatAreNoneTakeNoSlotAndAreRefused) {
     for (const auto& [name, bytes, told] : files) {
         Drop(1, outside.filePath(name));
         EXPECT_TRUE(dialogs.told.value(dialogs.told.size() - 1).startsWith('"' + name + "\" " + told))
-            << told.toStdString();
+            << dialogs.told.join(' ').toStdString();
         EXPECT_EQ(Files(), before);
     }
     EXPECT_TRUE(QFile::exists(outside.filePath("half.png")));
+    for (const auto& [format, bytes] : whole) {
+        QString why;
+        WriteFile(outside.filePath("whole"), bytes);
+        EXPECT_TRUE(PictureSheet::Load(outside.filePath("whole"), why)) << format.toStdString();
+    }
     make(Art());
     Open();
-    EXPECT_EQ(form->skinFile[0], "half.jpg");  // listed by its head
+    EXPECT_EQ(form->skinFile[0], "half.bmp");  // listed by its head
     form->FinishSkinSlots();
     EXPECT_EQ(form->skinFile[0] + form->skinFile[2] + form->skinFile[3], "test.pngv.png");
     EXPECT_TRUE(form->picSkin[2].focusPolicy() && !form->picSkin[3].focusPolicy());
     EXPECT_EQ(Model().SetSkinPicture(), "test.png");
     for (const char letter : QByteArray("BaCdegijklm")) WriteSkin(Art(QString("%1.png").arg(letter)));
     Open();  // the first twelve by name, some of them damaged
-    EXPECT_EQ(form->skinFile[1] + form->skinFile[11], "B.pngl.png");
+    EXPECT_EQ(form->skinFile[1] + form->skinFile[11], "B.pnghalf.xbm");
+}
+
+TEST_F(Skins, TakeTheirTimeWhileTheWindowGoesOn) {
+    time.onBackground = [&] {  // another button while the skin is read, and then the end
+        time.onBackground = [&] { form->close(); };
+        form->imgButton_Click(1);
+        form->imgButton_Click(0);
+    };
+    form->imgButton_Click(0);
+    EXPECT_TRUE(form->play == frmGame::Play::Off && random.games == 0);
+    time.onBackground = [] {};
+    for (const QString& skin : Files()) QFile::remove(Art(skin));
+    for (const bool damaged : {false, true}) {
+        if (damaged) WriteFile(Art("a.png"), Encoded({300, 1300}).chopped(20));
+        Open(), form->FinishSkinSlots();
+        EXPECT_TRUE(form->picSkin[0].Contents().drawings.empty() && form->lblSkinName.Caption().isEmpty());
+    }
 }
 
 TEST_F(Skins, DroppedOnesTakeASlotUnderAFreeName) {

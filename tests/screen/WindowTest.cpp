@@ -12,7 +12,7 @@ TEST(Window, ClosingStopsTheGameAndReadsNoSkins) {
     game.form->grab();  // its first paint, after which the skins are read
     game.form->close();
     QCoreApplication::processEvents();
-    EXPECT_EQ(game.form->picSkin[0].Contents().drawings.size(), 1);  // the frame of the chosen one
+    EXPECT_EQ(game.form->picSkin[0].Contents().drawings.size(), 2);  // a dash and the frame
     game.Open();
     game.Play(4);
     game.Lock();

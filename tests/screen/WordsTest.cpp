@@ -105,7 +105,9 @@ struct Spoken : testing::Test, Listener, StoreFile, GameWindow {
     void Screen() { record += Read(*QAccessible::queryAccessibleInterface(form.get())) + Ways(*form); }
     void Places() {
         for (const QWidget* control : form->findChildren<QWidget*>())
-            QDebug(&record).nospace() << control->objectName() << ' ' << control->geometry() << '\n';
+            QDebug(&record).nospace() << control->objectName() << ' ' << control->geometry() << ' '
+                                      << control->toolTip() << ' ' << control->cursor().shape() << ' '
+                                      << control->font().pixelSize() << control->font().weight() << '\n';
     }
 
     QString record;

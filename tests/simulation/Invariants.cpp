@@ -6,7 +6,6 @@
 #include "model/Levels.h"
 #include "screen/Look.h"
 #include "screen/ScoreText.h"
-#include "screen/Words.h"
 #include "tests/simulation/Simulation.h"
 
 namespace {
@@ -18,20 +17,26 @@ bool Occupied(const Simulation& w, std::int16_t cell) {
     return w.Model().CardAt(cell).Quantity != kNoCard;
 }
 
+QString Words(int kind) {
+    if (kind > kLastOrdinaryKind) return "eraser";
+    const QString text = "shape %1, colour %2, quantity %3";
+    return text.arg(kind / 12 + 1).arg(kind % 3 + 1).arg(kind / 3 % 4 + 1);
+}
+
 // Covered in a pause; otherwise its locked card, and the active card over that of its cell, which is kept
-// aside. The words for those who do not see it say the same: they are read off the pictures and drawings.
+// aside. The words say the same.
 bool CellIsRight(const Simulation& w, std::int16_t cell) {
     const bool paused = w.form->play == Play::Paused, occupied = Occupied(w, cell);
     const bool active = !paused && cell == w.Model().PosCurrentCard(), over = active && occupied;
     const int locked = occupied ? w.Model().CardAt(cell).Number : -1;
     const int due = paused ? kCoverKind : active ? w.Model().CurrentCard() : locked;
-    QString words = paused ? "covered" : due < 0 ? "empty" : CardInWords(due);
+    QString words = paused ? "covered" : due < 0 ? "empty" : Words(due);
     if (active) words += ", active card";
-    if (over) words += ", shaded, over " + CardInWords(locked);
+    if (over) words += ", shaded, over " + Words(locked);
     const auto picture = [&w](int kind) { return kind < 0 ? Picture() : w.Card(kind); };
     const PictureContents& shown = w.Cell(cell).Contents();
     return shown.picture == picture(due) && int(shown.drawings.size()) == active + over &&
-           (!active || w.form->picTemp.Picture() == picture(locked)) &&
+           (cell != w.Model().PosCurrentCard() || w.form->picTemp.Picture() == picture(locked)) &&
            w.Cell(cell).access.name() ==
                QString("Row %1, column %2: %3").arg(cell / 4 + 1).arg(cell % 4 + 1).arg(words);
 }
@@ -44,7 +49,7 @@ bool CaptionIsLit(const Simulation& w) {
     const auto lit = [](const Label& caption) { return caption.ForeColor() == Look::kLitCaption; };
     const bool shines = lit(form.lblCaption[menu]);
     if (ranges::count_if(form.lblCaption, lit) != shines || (shines ? scores : !dark)) return false;
-    const bool noGame = w.BoardShown() && form.play == Play::Off;  // there may be no skin to play with
+    const bool noGame = form.fraScreen[0].Visible() && form.play == Play::Off;  // for want of a skin
     return scores || noGame || form.fraScreen[menu == 4 ? 2 : menu].Visible();
 }
 
@@ -68,7 +73,7 @@ bool HighScoresAreKept(const Simulation& w) {
 std::string Broken(const Simulation& w) {
     const frmGame& form = *w.form;
     const clsCard& game = w.Model();
-    const bool on = form.play == Play::On, shown = w.BoardShown();
+    const bool on = form.play == Play::On, shown = form.fraScreen[0].Visible();
     // The player's own game is on the board, nothing that a demonstration has dealt.
     const bool own = form.play != Play::Off && form.picMat[0].Enabled() && !w.inDemo;
     const bool whole = own && !w.stepLeftOver, sameGame = w.random.games == w.before.games;
@@ -78,7 +83,7 @@ std::string Broken(const Simulation& w) {
     const bool timersKnown = !w.inDemo && !(shown && on && !own), due = shown && on && w.random.turns > 0;
     const bool locked = w.random.turns != w.before.turns || form.play != w.before.play;
     const bool limited = w.before.limit != std::chrono::milliseconds::max();
-    const Label& level = form.lblClass[std::size_t(form.CurrentLevel)];
+    const Label& level = form.lblClass[form.CurrentLevel];
     const bool hasLimit = form.CurrentLevel > 0, asks = form.picEnterName.Visible();
     const QWidget* focus = form.focusWidget();
     std::array<std::int16_t, kCells> cells{};
@@ -120,8 +125,7 @@ std::string Broken(const Simulation& w) {
         {"a name is asked for after a game", !asks || (form.play == Play::Off && shown)},
         {"the level chosen is red", red(level) && ranges::count_if(form.lblClass, red) == 1},
         {"the level chosen is marked", form.shpLevel.geometry().contains(level.geometry().center())},
-        {"the level has its name", form.lblLevelName.Caption() == level.Caption()},
-        {"the model has the level", game.SetLevel() == form.CurrentLevel},
+        {"the level", form.lblLevelName.Caption() == level.Caption() && game.SetLevel() == form.CurrentLevel},
         {"a limit has a bar", form.prbTime.Visible() == hasLimit && form.shpTime.Visible() == hasLimit},
         {"a full slot is chosen", form.CurrentSkin <= std::max<int>(0, form.SkinCount - 1)},
         {"the model has the skin",

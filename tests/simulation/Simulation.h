@@ -49,7 +49,6 @@ struct Simulation : StoreFile, GameWindow {
 
     // --- for the invariants ---
     [[nodiscard]] bool IsOpen() const { return form->isVisible() && !ended; }
-    [[nodiscard]] bool BoardShown() const { return form->fraScreen[0].Visible(); }
 
     const QByteArray skin = ReadFile(Art("test.png"));
     QTemporaryDir outside;  // where the player keeps pictures

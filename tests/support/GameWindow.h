@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QDir>
-#include <QImage>
 #include <QTemporaryDir>
 #include <QTest>
 #include <deque>

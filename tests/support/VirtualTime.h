@@ -13,6 +13,11 @@ public:
 
     void Wait(Milliseconds duration) override { now_ += duration; }
     void ProcessEvents() override { onProcessEvents(), Pass(Milliseconds(0)); }
+    void DropInput() override { onDropInput(); }
+    bool InBackground(std::function<void()> work, Milliseconds /*most*/) override {
+        work(), onBackground();
+        return true;
+    }
     QDate Today() const override { return {2026, 11, 24}; }
     std::unique_ptr<Alarm> NewAlarm(std::function<void()> due) override {
         return std::make_unique<VirtualAlarm>(*this, std::move(due));
@@ -29,6 +34,7 @@ public:
     }
     [[nodiscard]] Milliseconds Now() const { return now_; }
 
+    std::function<void()> onDropInput = [] {}, onBackground = [] {};
     std::function<void()> onProcessEvents = [] {};  // what else happens when the game lets events run
 
 private:
