@@ -63,5 +63,7 @@ int mdlMain::Main() {
     frmGame form({time, random, dialogs, soundFiles, ProgramFolder::Find(), [] { std::_Exit(EXIT_SUCCESS); },
                   OpenAddress});
     form.show();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    if (time.IsBusy()) std::_Exit(status);  // a picture that is still being read would outlive what it uses
+    return status;
 }

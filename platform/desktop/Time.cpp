@@ -50,7 +50,11 @@ void RealTime::DropInput() {
 }
 
 bool RealTime::InBackground(std::function<void()> work, std::chrono::milliseconds most) {
-    QThread* const thread = QThread::create(std::move(work));
+    ++*running_;
+    QThread* const thread = QThread::create([work = std::move(work), running = running_] {
+        work();
+        --*running;
+    });
     QEventLoop loop;
     bool ended = false;
     QObject::connect(thread, &QThread::finished, thread, &QObject::deleteLater);

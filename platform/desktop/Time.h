@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDate>
+#include <atomic>
 #include <chrono>
 #include <functional>
 #include <memory>
@@ -43,4 +44,9 @@ public:
     bool InBackground(std::function<void()> work, std::chrono::milliseconds most) override;
     [[nodiscard]] QDate Today() const override;
     [[nodiscard]] std::unique_ptr<Alarm> NewAlarm(std::function<void()> due) override;
+    // Whether work that nobody waits for any more still runs.
+    [[nodiscard]] bool IsBusy() const { return *running_ > 0; }
+
+private:
+    std::shared_ptr<std::atomic<int>> running_ = std::make_shared<std::atomic<int>>(0);
 };

@@ -102,7 +102,9 @@ struct Spoken : testing::Test, Listener, StoreFile, GameWindow {
         record +=
             QString("-- %1\ntold: %2\nheard: ").arg(what, told.join("; ")) + sounds.heard.join(' ') + '\n';
     }
-    void Screen() { record += Read(*QAccessible::queryAccessibleInterface(form.get())) + Ways(*form); }
+    void Screen() {
+        record += Read(*QAccessible::queryAccessibleInterface(form.get())), record += Ways(*form);
+    }
     void Places() {
         for (const QWidget* control : form->findChildren<QWidget*>())
             QDebug(&record).nospace() << control->objectName() << ' ' << control->geometry() << ' '
