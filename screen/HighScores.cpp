@@ -13,17 +13,18 @@ void mdlFormFunc::InitHighScoreTable() {
 void mdlFormFunc::GameOver() {
     form_.SetPlay(frmGame::Play::Off);
     CoverBoard();
-    form_.DropInput();
     ShowNextCard(kCoverKind);
     KeepNothingAside();
     form_.Timer1.Enabled(false);
     form_.Timer2.Enabled(false);
     form_.prbTime.Value(0);
+    form_.DropInput();
     form_.TellEnd();
     if (RowForScore(form_.lblScore.Caption())) form_.AskForName();
 }
 
-// What was pressed while the board was being covered was meant for the game, not for the name entry.
+// What was pressed while the board was being covered was meant for the game, not for the name entry. No timer
+// may run here: a late tick would play on.
 void frmGame::DropInput() {
     covering_ = true;
     world_.time.DropInput();

@@ -13,7 +13,7 @@ public:
 
     void Wait(Milliseconds duration) override { now_ += duration; }
     void ProcessEvents() override { onProcessEvents(), Pass(Milliseconds(0)); }
-    void DropInput() override { onDropInput(); }
+    void DropInput() override { onDropInput(), Pass(Milliseconds(0)); }
     bool InBackground(std::function<void()> work, Milliseconds /*most*/) override {
         work(), onBackground();
         return true;
