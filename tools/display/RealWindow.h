@@ -5,7 +5,7 @@
 #include <chrono>
 #include <functional>
 
-struct _XDisplay;
+struct _XDisplay;  // NOLINT(bugprone-reserved-identifier): the name that Xlib gives it
 
 // A window on a real X display as a person meets it: seen as pixels, reached with keyboard and mouse.
 // Positions are device pixels from the window's corner.
