@@ -4,7 +4,7 @@
 
 #include "platform/controls/Button.h"
 #include "platform/controls/Image.h"
-#include "platform/controls/Label.h"
+#include "platform/controls/LineLabel.h"
 #include "platform/controls/PictureBox.h"
 #include "platform/controls/Shape.h"
 #include "screen/TimeBar.h"
@@ -36,7 +36,7 @@ struct WindowControls {
     Label Label16{window, {"Label16", {2520, 195, 2670, 255}, "Come and compete online at "}};
     Label Label17{window, {"Label17", {2520, 450, 2670, 255}, ""}};
     Label lblCardsLeft{window, {"lblCardsLeft", {2640, 5400, 750, 765}, "0"}};
-    Label lblScore{window, {"lblScore", {3540, 5580, 2190, 420}, "0"}};
+    LineLabel lblScore{window, {"lblScore", {3540, 5580, 2190, 420}, "0"}};
     Image Image1{window, {"Image1", {5640, 30, 255, 285}, ""}};
     Image imgMinimaize{window, {"imgMinimaize", {5325, 30, 255, 285}, ""}};
     Image imgWebLink{window, {"imgWebLink", {120, 5070, 405, 885}, ""}};

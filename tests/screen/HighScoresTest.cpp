@@ -87,16 +87,18 @@ TEST(HighScores, TheNameEntryHasTheKeyboard) {
 // As every locale writes them: read again, and whole in their columns where the font has the letters.
 TEST(HighScores, AreReadAndFitHoweverTheyAreWritten) {
     GameWindow game;
-    LineLabel &date = game.form->lblDate[0], &points = game.form->lblHighScore[0];
+    LineLabel &date = game.form->lblDate[0], &points = game.form->lblHighScore[0],
+              &score = game.form->lblScore;
     const auto hasGlyph = [metrics = date.fontMetrics()](QChar letter) { return metrics.inFont(letter); };
     for (const QLocale& locale :
          QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry)) {
-        for (const std::int32_t score : {0, 10, 999, 1000, 12345, 123456, 1234567, 2147483647})
-            EXPECT_EQ(ScoreFromText(locale.toString(score)), score) << locale.name().toStdString();
+        for (const std::int32_t number : {0, 10, 999, 1000, 12345, 123456, 1234567, 2147483647})
+            EXPECT_EQ(ScoreFromText(locale.toString(number)), number) << locale.name().toStdString();
         date.Caption(locale.toString(QDate(2026, 12, 28), QLocale::ShortFormat));
-        points.Caption(locale.toString(2147483647));
-        const QString whole = date.Caption() + points.Caption();
-        EXPECT_TRUE(date.Shown() + points.Shown() == whole || !std::ranges::all_of(whole, hasGlyph))
+        for (LineLabel* label : {&points, &score}) label->Caption(locale.toString(2147483647));
+        const QString whole = date.Caption() + points.Caption() + score.Caption();
+        EXPECT_TRUE(date.Shown() + points.Shown() + score.Shown() == whole ||
+                    !std::ranges::all_of(whole, hasGlyph))
             << whole.toStdString();
     }
     for (const char* none :
