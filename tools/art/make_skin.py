@@ -64,6 +64,13 @@ def drawing(source, cells, columns, size=None):
             f'{(width - shown_width * unit) / 2} 0 {shown_width * unit} {shown_height * unit}">' + pieces(source) + "".join(placed) + "</svg>")
 
 
+def refuse_broken(sheet):
+    """Exits when a piece that is used is missing, or is there twice: the renderer would be silent about it."""
+    ids, used = re.findall(r'\bid="([^"]+)"', sheet), set(re.findall(r'(?:href="|url\()#([^")]+)', sheet))
+    if wrong := used - set(ids) | {piece for piece in ids if ids.count(piece) > 1}:
+        raise SystemExit(f"missing or there twice: {', '.join(sorted(wrong))}")
+
+
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("skin", type=pathlib.Path)
@@ -76,6 +83,7 @@ def main():
         given.out.write_text(drawing(source, [given.cell], 1, given.size))
     else:
         sheet = drawing(source, range(COLUMNS * ROWS), COLUMNS)
+        refuse_broken(sheet)
         svg.rasterise(sheet, given.out, COLUMNS * CELL * SCALE, ROWS * CELL * SCALE)
 
 

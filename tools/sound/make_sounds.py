@@ -127,7 +127,10 @@ def make(sound, table):
     samples = levelled(mix(sound, table["voice"], count), rate, table["loudness"][sound["loudness"]])
     if max(map(abs, samples)) > CLEAR:
         raise SystemExit(f"{sound['file']} cannot be that loud: its peaks would be cut off")
-    return wave_file(eight_bits(samples, rate, random.Random(count)), rate, sound["bytes"])
+    made = wave_file(eight_bits(samples, rate, random.Random(count)), rate, sound["bytes"])
+    if len(made) != sound["bytes"]:
+        raise SystemExit(f"{sound['file']} cannot have {sound['bytes']} bytes")
+    return made
 
 
 def main():
