@@ -11,7 +11,7 @@
 #include <set>
 
 #include "model/RandomSource.h"
-#include "tests/support/ModelScreen.h"
+#include "tools/bench/ModelScreen.h"
 
 namespace {
 

@@ -1,37 +1,17 @@
-# A desktop of one's own, without a screen or a person at it, and the game on it as its player finds it. It is the
-# environment of the process that makes it, and ends with that process.
+# The game on a virtual desktop as its player sees it.
 
-import atexit
-import contextlib
 import os
-import pathlib
-import resource
-import signal
-import subprocess
-import sys
-import tempfile
 import time
 
+import desktop
 import numpy
+from desktop import CELLS, EXIT, PREVIEW, Desktop, until
 from gi.repository import GLib
 
-SANITIZED = "--sanitized" in sys.argv
 START, ERASER, COVER, BLACK = 12, 36, 36, -1
-# Where things are, in logical pixels from the window's corner.
-HELP, SCORE, MENU, PLAY, MINIMISE, EXIT = (367, 125), (367, 172), (367, 217), (366, 262), (363, 11), (384, 11)
-BACKGROUND, PREVIEW, SCREEN = (345, 80), (84, 361), (60, 130, 250, 150)
-LEVELS = [(121, 114 + 24 * level) for level in range(5)]
-SLOTS = [(191 + slot % 3 * 42, 120 + slot // 3 * 44) for slot in range(12)]
-CELLS = [(83 + cell % 4 * 66, 93 + cell // 4 * 66) for cell in range(16)]
-
-
-# Looks until something holds, and gives it back. Meanwhile what this process has on the display and the bus lives on.
-def until(holds, what):
-    end = time.monotonic() + 30
-    while not (held := holds()):
-        assert time.monotonic() < end, what
-        GLib.MainContext.default().iteration(False) or time.sleep(0.005)
-    return held
+SCREEN = 60, 130, 250, 150
+# While waiting, this process serves its own windows and the accessibility bus.
+desktop.pause = lambda: GLib.MainContext.default().iteration(False) or time.sleep(0.005)
 
 
 # A skin that tells a card's kind by its colour, through shading and frames.
@@ -41,64 +21,21 @@ def write_skin(path, cell=4, tint=0):
     path.write_bytes(b"P6 %d %d 255\n" % (3 * cell, 13 * cell) + sheet.tobytes())
 
 
-# A process has so many more bytes of memory, or files: each takes the lowest number that is free. Not a sanitizer's,
-# which ends a program that has none.
-@contextlib.contextmanager
-def limited(process, kind, more):
-    proc, (_, most) = pathlib.Path(f"/proc/{process.pid}"), resource.prlimit(process.pid, kind)
-    used = {resource.RLIMIT_NOFILE: min(set(range(1000)) - set(map(int, os.listdir(proc / "fd")))),
-            resource.RLIMIT_AS: int((proc / "statm").read_text().split()[0]) * resource.getpagesize()}
-    resource.prlimit(process.pid, kind, (most if SANITIZED else used[kind] + more, most))
-    yield
-    resource.prlimit(process.pid, kind, (most, most))
-
-
-class Desk:
+class Desk(Desktop):
     def __init__(self, program, scale=1):
-        self.program, self.scale, self.kept = program, scale, tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
-        self.folder = pathlib.Path(self.kept.name)
-        self.home = self.folder / "home"
+        super().__init__(scale)
+        self.program, self.home = program, self.folder / "home"
         (self.home / "Art").mkdir(parents=True)
         write_skin(self.home / "Art/cards.ppm")
         write_skin(self.home / "Art/other.ppm", tint=1)
-        os.environ |= {f"XDG_{name}_HOME": str(self.folder / name) for name in ("CONFIG", "DATA", "CACHE", "STATE")} | {
-            "XDG_RUNTIME_DIR": self.kept.name, "PULSE_SERVER": f"unix:{self.folder}/native", "LC_ALL": "C.UTF-8",
-            "DBUS_SESSION_BUS_ADDRESS": "disabled:", "QT_QPA_PLATFORM": "xcb", "GDK_BACKEND": "x11",
-            "QT_SCALE_FACTOR": str(scale), "TESSELOR_HOME": str(self.home)}
-        # Keys do not repeat: on a busy machine any press is a long one.
-        self.server = self.start("Xvfb", "-displayfd", "1", "-screen", "0", "1400x1000x24", "-fbdir", self.folder,
-                                 "-nocursor", "-r", end=signal.SIGTERM, stdout=subprocess.PIPE)
-        os.environ["DISPLAY"] = ":" + self.server.stdout.readline().strip()
-        self.screen = numpy.memmap(self.folder / "Xvfb_screen0", mode="r")[-1400 * 1000 * 4:].reshape(1000, 1400, 4)
-        # A window manager without uses of its own for the mouse: it would hold each click back to look at it first.
-        (self.folder / "rc.xml").write_text('<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse/></openbox_config>')
-        ready = self.folder / "ready"
-        self.start("openbox", "--sm-disable", "--config-file", self.folder / "rc.xml", "--startup", f"touch {ready}")
-        until(ready.exists, "no window manager")
+        os.environ |= {"DBUS_SESSION_BUS_ADDRESS": "disabled:", "TESSELOR_HOME": str(self.home)}
 
-    def start(self, *command, end=signal.SIGKILL, **options):
-        process = subprocess.Popen(command, text=True, **options)
-        atexit.register(process.wait)  # a server that is still ending would take the name of the next one's display away
-        atexit.register(process.send_signal, end)
-        return process
-
-    # What xdotool does and answers.
-    def do(self, *command):
-        return subprocess.run(["xdotool", *map(str, command)], capture_output=True, text=True).stdout
-
-    # The game, in the upper left corner of the screen.
     def play(self):
-        self.game = self.start(self.program)
-        self.window = until(self.shown, "no window").pop()
-        self.do("windowmove", self.window, 0, 0, "windowfocus", self.window)
-        return self.see(lambda seen: seen.at(5, 200)[2] > 20, "the window is not painted")
+        super().play(self.program)
 
     def leave(self):
         self.click(EXIT)
         assert self.game.wait(20) == 0
-
-    def shown(self):
-        return set(self.do("search", "--onlyvisible", "--name", "^Tesselor$").split())
 
     # Waits for a message, and until Return has answered it.
     def answer(self, key="Return"):
@@ -107,16 +44,8 @@ class Desk:
         until(lambda: box not in self.shown(), "the message stays")
         self.do("windowfocus", self.window)
 
-    def point(self, place, *then):
-        self.do("mousemove", *(int(length * self.scale) for length in place), *then)
-
-    def click(self, *places, button=1):
-        for place in places:
-            self.point(place, "click", button)
-
     def look(self):
-        rows, columns = ((numpy.arange(size) * self.scale).astype(int) for size in (411, 399))
-        return Picture(self.screen[numpy.ix_(rows, columns)][..., 2::-1])
+        return Picture(self.pixels())
 
     # Waits until what is shown is as it should be. Looks twice: the first look may come in the middle of a change.
     def see(self, holds, what):

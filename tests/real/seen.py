@@ -2,7 +2,8 @@
 
 import sys
 
-from desk import BACKGROUND, CELLS, ERASER, LEVELS, MENU, MINIMISE, PLAY, PREVIEW, START, Desk, until
+from desk import ERASER, START, Desk
+from desktop import BACKGROUND, CELLS, LEVELS, MENU, MINIMISE, PLAY, PREVIEW, until
 
 
 # Whether the mark of the keyboard is around a control.

@@ -1,8 +1,7 @@
-# The sounds as a listener at a real sound server hears them. usage: sound.py PROGRAM BUILD [--sanitized]
+# The sounds as a listener at a real sound server hears them. usage: sound.py PROGRAM BUILD
 
 import os
 import pathlib
-import resource
 import shutil
 import signal
 import sys
@@ -10,7 +9,8 @@ import wave
 
 import numpy
 
-from desk import HELP, MENU, PLAY, SCREEN, Desk, limited, until
+from desk import SCREEN, Desk
+from desktop import HELP, MENU, PLAY, until
 
 RATE = 22050
 
@@ -72,17 +72,13 @@ for path in (*waves, build / "wav/Space.wav"):
     desk.see(lambda seen: seen.is_covered(), "no pause")
     listener.hears(path, desk.do, "key", "p")
 
-# The game goes on while the server hangs, and without server and files or memory for a connection, which takes 64
-# megabytes of addresses and gives those of the last one back first; then it is heard again, and ends at once.
+# The game goes on while the server hangs and when it is gone; then it is heard again, and ends at once.
 os.kill(listener.server.pid, signal.SIGSTOP)
 desk.lock(6)
 listener.server.kill()
 listener.server.wait()
 (desk.folder / "native").unlink()
-for kind, more in ((resource.RLIMIT_NOFILE, 0), (resource.RLIMIT_AS, -30_000_000)):
-    with limited(desk.game, kind, more):
-        desk.move(8)
-        desk.move(9)
+desk.move(8)
 listener = Listener(desk)
 listener.hears(waves[10], desk.click, HELP)
 os.kill(listener.server.pid, signal.SIGSTOP)

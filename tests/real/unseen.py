@@ -8,7 +8,8 @@ import sys
 
 import gi
 
-from desk import START, Desk, until
+from desk import START, Desk
+from desktop import until
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402

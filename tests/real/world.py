@@ -8,7 +8,8 @@ import sys
 
 import gi
 
-from desk import MENU, PLAY, SANITIZED, SCORE, SCREEN, SLOTS, Desk, limited, until, write_skin
+from desk import SCREEN, Desk, write_skin
+from desktop import MENU, PLAY, SCORE, SLOTS, until
 
 gi.require_version("Gtk", "3.0")
 
@@ -39,9 +40,12 @@ def drop(desk):
 # The player is told when there is too little memory for a skin of the largest size, and the game goes on.
 def no_memory(desk):
     desk.click(SLOTS[1])
-    with limited(desk.game, resource.RLIMIT_AS, 20_000_000):
-        desk.click(PLAY)
-        until(lambda: len(desk.shown()) == 2, "nothing is told")
+    used = int(open(f"/proc/{desk.game.pid}/statm").read().split()[0]) * resource.getpagesize()
+    _, most = resource.prlimit(desk.game.pid, resource.RLIMIT_AS)
+    resource.prlimit(desk.game.pid, resource.RLIMIT_AS, (used + 20_000_000, most))
+    desk.click(PLAY)
+    until(lambda: len(desk.shown()) == 2, "nothing is told")
+    resource.prlimit(desk.game.pid, resource.RLIMIT_AS, (most, most))
     desk.answer()
     desk.click(MENU, SLOTS[0], PLAY)
     desk.turn()
@@ -53,7 +57,7 @@ desk.play()
 desk.click(MENU)
 desk.see(lambda seen: seen.at(*SLOTS[1]) == (128, 16, 255), "the slots are not filled")
 drop(desk)
-if not SANITIZED:
+if "--sanitized" not in sys.argv:
     no_memory(desk)
 shutil.rmtree(desk.home)
 shutil.rmtree(desk.folder / "CONFIG")

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "model/RandomSource.h"
-#include "tests/support/ModelScreen.h"
+#include "tools/bench/ModelScreen.h"
 
 namespace {
 

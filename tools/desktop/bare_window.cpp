@@ -14,6 +14,7 @@ class BareWindow final : public QWidget {
 public:
     explicit BareWindow(bool ticks) {
         setWindowTitle(QStringLiteral("Bare"));
+        setWindowFlag(Qt::FramelessWindowHint);  // as the game's window is
         setFixedSize(399, 411);
         setAutoFillBackground(true);
         setPalette(QColor(40, 60, 120));
