@@ -44,6 +44,20 @@ void Hover(QWidget& control, bool over) {
     QCoreApplication::sendEvent(&control, over ? &enter : &leave);
 }
 
+// What is painted anew of the control it watches.
+struct PaintWatch : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::Paint) rect_ = static_cast<QPaintEvent*>(event)->rect();
+        return false;
+    }
+    QRect Painted() {
+        rect_ = {};
+        QCoreApplication::processEvents();
+        return rect_;
+    }
+    QRect rect_;
+};
+
 // Twelve controls of 4 x 3 pixels side by side. At one and a half, every other one begins between two device
 // pixels.
 struct Row : QWidget {
@@ -61,11 +75,7 @@ struct Row : QWidget {
         thick.DrawWidth(2), thick.DrawBox({2, 2}, {7, 7}, kBlue), thick.DrawBox({-4, -4}, {0, 0}, kWhite);
         for (QWidget* control : std::initializer_list<QWidget*>{&sunk, &pressed, &down})
             QTest::mousePress(control, Qt::LeftButton);
-        for (QWidget* control : findChildren<QWidget*>()) control->installEventFilter(this);
-    }
-    bool eventFilter(QObject*, QEvent* event) override {
-        isPainted |= event->type() == QEvent::Paint;
-        return false;
+        for (QWidget* control : findChildren<QWidget*>()) control->installEventFilter(&watch);
     }
     static Placement At(int number) { return {"", {15 + 75 * number, 15, 60, 45}, ""}; }
     const Picture red = Swatch(kRed), blue = Swatch(kBlue);
@@ -75,7 +85,7 @@ struct Row : QWidget {
     PictureBox painted{this, At(7)}, bordered{this, At(8), 1}, down{this, At(9)};
     PictureBox thin{this, At(10)}, thick{this, At(11)};
     Label label{this, At(0)};
-    bool isPainted = false;
+    PaintWatch watch;
 };
 
 TEST(Looks, StandOnWholePixelsAtEveryScaleAndAreShownAsSoonAsTheyChange) {
@@ -89,11 +99,7 @@ TEST(Looks, StandOnWholePixelsAtEveryScaleAndAreShownAsSoonAsTheyChange) {
               "..rrrrrr.rrrrrr..rrrrrr.bbbbbb.........bbb............wwbbbw..11rrr1.rrrrrr..wwwwww.rrbbbb ");
     row.show();
     QCoreApplication::processEvents();
-    auto shown = [&row, change = 0]() mutable {
-        row.isPainted = false;
-        QCoreApplication::processEvents();
-        EXPECT_TRUE(row.isPainted) << change++;
-    };
+    auto shown = [&row, change = 0]() mutable { EXPECT_FALSE(row.watch.Painted().isEmpty()) << change++; };
     row.frame.BackColor(kBlue), shown(), row.frame.Background(row.red), shown();
     row.shape.Look(Qt::blue, {}), shown(), row.sunk.Picture(row.red), shown();
     row.painted.PaintPicture(row.red, {}), shown(), row.painted.DrawBox({}, {1, 1}, kRed), shown();
@@ -101,6 +107,23 @@ TEST(Looks, StandOnWholePixelsAtEveryScaleAndAreShownAsSoonAsTheyChange) {
     Hover(row.hover, false), shown(), Hover(row.hover, true), shown();
     row.label.Caption("l"), shown(), row.label.ForeColor(kRed), shown();
     row.thin.ShowsPress(true), QTest::mousePress(&row.thin, Qt::LeftButton), shown();
+}
+
+TEST(Looks, OfTheTimeBarArePaintedAnewWhereATickFills) {
+    TimeBar bar(nullptr, {"bar", {0, 0, 20 * kTwipsPerPixel, 100 * kTwipsPerPixel}, {}}, TimeBarDesign());
+    PaintWatch watch;
+    bar.installEventFilter(&watch);
+    bar.show();
+    QCoreApplication::processEvents();
+    // The row before the fill line is left as it was.
+    for (const auto& [value, back, rows] : {std::tuple(30, 0x404040, QRect(0, 0, 20, 29)),
+                                            {31, 0x404040, {0, 29, 20, 1}},
+                                            {31, 0x404040, {}},
+                                            {31, 0, {0, 31, 20, 69}}}) {
+        bar.Bar().BackColour(back), bar.Value(value);
+        EXPECT_EQ(watch.Painted(), rows);
+        EXPECT_EQ(bar.grab().toImage().pixel(19, value - 2), 0xFFE0E0E0);
+    }
 }
 
 // Where the text is, in a label of 100 x 60 pixels.

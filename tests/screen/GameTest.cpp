@@ -6,12 +6,10 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr int kJunior = 1, kExpert = 3, kMaster = 4;
+constexpr int kExpert = 3, kMaster = 4;
 
 TEST(Game, MovesTheTimeBarWithTheLevel) {
     const std::tuple<const char*, int, std::chrono::milliseconds, int> cases[] = {
-        {"practice: never", 0, 60s, 0},
-        {"junior: two each tick of 196 ms", kJunior, 197ms, 2},
         {"senior: after 117.5 ms, a tie", 2, 117ms, 0},
         {"senior: rounded up", 2, 118ms, 3},
         {"expert: full after 34 ticks, and stays so", kExpert, 3600ms, 100},

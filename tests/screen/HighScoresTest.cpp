@@ -40,7 +40,6 @@ struct KeptGame : StoreFile, GameWindow {
 TEST(HighScores, AScoreTakesTheFirstRowItIsGreaterThan) {
     const Rows usual{"9,000", "5,000", "1,000", "500"};
     const std::tuple<const char*, Rows, int, Rows> cases[] = {
-        {"into a new table", {"0", "0", "0", "0"}, 250, {"Me|11/24/26|250", "N0|D|0", "N1|D|0", "N2|D|0"}},
         {"equal goes below", usual, 5000, {"N0|D|9,000", "N1|D|5,000", "Me|11/24/26|5,000", "N2|D|1,000"}},
         {"last", usual, 501, {"N0|D|9,000", "N1|D|5,000", "N2|D|1,000", "Me|11/24/26|501"}},
         {"kept under another locale, and no number",

@@ -1,4 +1,8 @@
-// The window beside a game: how it opens and closes, its menu, help and information window.
+// The window beside a game: how it opens and closes, on screens of every usual scale, its links and its
+// information window.
+
+#include <QScreen>
+#include <QWindow>
 
 #include "screen/Look.h"
 #include "screen/frmInfo.h"
@@ -10,15 +14,13 @@ TEST(Window, ClosingStopsTheGameAndReadsNoSkins) {
     GameWindow game;
     game.form->show();
     game.form->grab();  // its first paint, after which the skins are read
-    game.form->close();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(game.form->picSkin[0].Contents().drawings.size(), 2);  // a dash and the frame
-    game.Open();
     game.Play(4);
     game.Lock();
     game.form->close();
+    QCoreApplication::processEvents();
     game.time.Pass(std::chrono::hours(1));
     EXPECT_FALSE(game.form->Timer1.Enabled() || game.form->Timer2.Enabled());
+    EXPECT_EQ(game.form->picSkin[0].Contents().drawings.size(), 2);  // a dash and the frame
 }
 
 TEST(Window, ShowsWhatIsPressedAndOpensItsLinks) {
@@ -46,14 +48,29 @@ TEST(Window, SaysWhyThereIsNothingToPlayWithAndGoesOn) {
     GameWindow game;
     game.PlayKinds({0, 16, 32});
     QFile::remove(game.Art("test.png"));
-    game.Play();
-    game.Lock(), game.RightClick();
-    EXPECT_EQ(game.Model().CardsInMatrix(), 0);
-    game.Open();
+    game.Play(), game.Open();
     game.form->imgButton_Click(0);
     EXPECT_EQ(game.dialogs.told.value(0), "\"test.png\" was not found.");
     EXPECT_TRUE(game.dialogs.told.value(1).endsWith("put one in " + game.Art().chopped(1) + '.'));
     EXPECT_EQ(game.form->CurrentMenu, 2);
+}
+
+TEST(Window, MovedToAnotherScreenLooksLikeOneThatOpensThere) {
+    GameWindow game;
+    game.PlayKinds({5, 7}, 1), game.LockAt(5), game.MoveTo(10);
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    const auto on = [&game](QScreen* screen) {
+        game.form->move(screen->geometry().topLeft() + QPoint(50, 50));
+        game.form->show(), game.form->windowHandle()->setScreen(screen);
+        QCoreApplication::processEvents();
+        return game.form->grab().toImage();
+    };
+    for (QScreen* screen : screens) {
+        const QImage opened = on(screen);
+        EXPECT_NEAR(opened.devicePixelRatio(), screen->devicePixelRatio(), 1e-4);
+        on(screens[screen == screens[0] ? 3 : 0]);
+        EXPECT_EQ(on(screen), opened) << screen->devicePixelRatio();
+    }
 }
 
 TEST(Info, IsOneWindowOnTheScreenWithTheRulesReadAfresh) {

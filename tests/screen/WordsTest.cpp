@@ -9,6 +9,7 @@
 #include <QAbstractEventDispatcher>
 #include <QMetaEnum>
 
+#include "screen/Look.h"
 #include "shell/mdlSound.h"
 #include "tests/support/GameWindow.h"
 #include "tests/support/StoreFile.h"
@@ -104,6 +105,8 @@ struct Spoken : testing::Test, Listener, StoreFile, GameWindow {
     }
     void Screen() {
         record += Read(*QAccessible::queryAccessibleInterface(form.get())), record += Ways(*form);
+        for (const Label& caption : form->lblCaption)
+            if (caption.ForeColor() == Look::kLitCaption) record += "lit: " + caption.Caption() + '\n';
     }
     void Places() {
         for (const QWidget* control : form->findChildren<QWidget*>())

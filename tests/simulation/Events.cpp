@@ -1,9 +1,5 @@
 // What may happen to the program: the player's hands, the window system, time, files and other programs.
 
-#include <QDropEvent>
-#include <QMimeData>
-#include <QUrl>
-
 #include "model/Levels.h"
 #include "tests/simulation/Simulation.h"
 
@@ -60,14 +56,9 @@ void DropFile(Sim& w, Choice c) {
     const QString dropped = c % 11 ? w.outside.filePath(SkinName(c)) : w.Art(SkinName(c));
     if (c % 11) WriteSome(w, dropped, c / 16);
     w.Attend();
-    QMimeData files;
-    files.setUrls({QUrl::fromLocalFile(dropped)});
     QWidget* target = w.form->childAt(w.form->picSkin[c / 64 % 12].mapTo(w.form.get(), QPoint(5, 5)));
-    if (!target || !target->acceptDrops() || !target->isEnabled()) return;
-    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(target, &enter);
-    QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, {});
-    if (enter.isAccepted()) QCoreApplication::sendEvent(target, &drop);
+    if (target && target->acceptDrops() && target->isEnabled())
+        Sim::Drop(*target, {QUrl::fromLocalFile(dropped)});
 }
 
 }  // namespace

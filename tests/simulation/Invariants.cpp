@@ -4,7 +4,6 @@
 #include <numeric>
 
 #include "model/Levels.h"
-#include "screen/Look.h"
 #include "screen/ScoreText.h"
 #include "tests/simulation/Simulation.h"
 
@@ -17,40 +16,17 @@ bool Occupied(const Simulation& w, std::int16_t cell) {
     return w.Model().CardAt(cell).Quantity != kNoCard;
 }
 
-QString Words(int kind) {
-    if (kind > kLastOrdinaryKind) return "eraser";
-    const QString text = "shape %1, colour %2, quantity %3";
-    return text.arg(kind / 12 + 1).arg(kind % 3 + 1).arg(kind / 3 % 4 + 1);
-}
-
 // Covered in a pause; otherwise its locked card, and the active card over that of its cell, which is kept
-// aside. The words say the same.
+// aside.
 bool CellIsRight(const Simulation& w, std::int16_t cell) {
     const bool paused = w.form->play == Play::Paused, occupied = Occupied(w, cell);
     const bool active = !paused && cell == w.Model().PosCurrentCard(), over = active && occupied;
     const int locked = occupied ? w.Model().CardAt(cell).Number : -1;
     const int due = paused ? kCoverKind : active ? w.Model().CurrentCard() : locked;
-    QString words = paused ? "covered" : due < 0 ? "empty" : Words(due);
-    if (active) words += ", active card";
-    if (over) words += ", shaded, over " + Words(locked);
     const auto picture = [&w](int kind) { return kind < 0 ? Picture() : w.Card(kind); };
     const PictureContents& shown = w.Cell(cell).Contents();
     return shown.picture == picture(due) && int(shown.drawings.size()) == active + over &&
-           (cell != w.Model().PosCurrentCard() || w.form->picTemp.Picture() == picture(locked)) &&
-           w.Cell(cell).access.name() ==
-               QString("Row %1, column %2: %3").arg(cell / 4 + 1).arg(cell % 4 + 1).arg(words);
-}
-
-// The high scores put the light out; it comes back with another button.
-bool CaptionIsLit(const Simulation& w) {
-    const frmGame& form = *w.form;
-    const auto menu = std::size_t(form.CurrentMenu);
-    const bool scores = form.fraScreen[3].Visible(), dark = scores || form.CurrentMenu == w.before.unlitMenu;
-    const auto lit = [](const Label& caption) { return caption.ForeColor() == Look::kLitCaption; };
-    const bool shines = lit(form.lblCaption[menu]);
-    if (ranges::count_if(form.lblCaption, lit) != shines || (shines ? scores : !dark)) return false;
-    const bool noGame = form.fraScreen[0].Visible() && form.play == Play::Off;  // for want of a skin
-    return scores || noGame || form.fraScreen[menu == 4 ? 2 : menu].Visible();
+           (cell != w.Model().PosCurrentCard() || w.form->picTemp.Picture() == picture(locked));
 }
 
 // In order, and no entry gets lost but the last, and that to a better one.
@@ -98,7 +74,6 @@ std::string Broken(const Simulation& w) {
     const auto lost = [&w](const QString& file) { return !QFile::exists(w.Art(file)); };
     const std::pair<const char*, bool> facts[] = {
         {"one screen is shown", ranges::count_if(form.fraScreen, visible) == 1},
-        {"\"next card\" is on the help screen", form.lblNextCard.Visible() == form.fraScreen[2].Visible()},
         {"only a game takes input", w.inDemo || game.RndAction() != on},
         {"all cards are counted", ranges::count_if(cells, occupied) == game.CardsInMatrix()},
         {"the board is shown", !whole || ranges::all_of(cells, right)},
@@ -120,7 +95,6 @@ std::string Broken(const Simulation& w) {
         {"a standing bar is empty", !timersKnown || due || !own || !shown || form.prbTime.Value() == 0},
         {"time alone locks where there is a limit, and at the latest when it has passed",
          !w.onlyTime || w.inDemo || (locked ? limited : w.time.Now() < w.before.limit)},
-        {"the caption of the screen is lit", CaptionIsLit(w)},
         {"the menu is closed for a name", ranges::count_if(form.imgButton, closed) == (asks ? 5 : 0)},
         {"a name is asked for after a game", !asks || (form.play == Play::Off && shown)},
         {"the level chosen is red", red(level) && ranges::count_if(form.lblClass, red) == 1},

@@ -59,8 +59,6 @@ void Simulation::Remember() {
     before.games = random.games, before.turns = random.turns;
     before.score = Model().Score(), before.play = form->play;
     before.limit = limited ? time.Now() + interval : std::chrono::milliseconds::max();
-    if (form->fraScreen[3].Visible() || form->CurrentMenu != before.unlitMenu)
-        before.unlitMenu = form->fraScreen[3].Visible() ? form->CurrentMenu : -1;
     if (const QByteArray bytes = Bytes(); bytes != before.store)
         before.store = bytes, before.table = StoredTable();
     before.files = QDir(Art()).entryList(QDir::Files | QDir::Hidden);

@@ -69,7 +69,6 @@ struct Simulation : StoreFile, GameWindow {
         QStringList files;
         QByteArray store;
         QList<QStringList> table;
-        int unlitMenu = -1;  // the button whose caption the high scores have put out
     } before;
 
 private:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTemporaryDir>
 #include <QTest>
 #include <deque>
@@ -95,6 +97,18 @@ public:
         form->picMat_MouseMove(static_cast<std::int16_t>(cell), 0, 0, 0, 0);
     }
     void LockAt(int cell) { form->LockInCell(static_cast<std::int16_t>(cell)); }
+    // Drags files onto a control; whether it took them.
+    static bool Drop(QWidget& target, const QList<QUrl>& urls) {
+        QMimeData data;
+        data.setUrls(urls);
+        QDragEnterEvent enter({5, 5}, Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, {});
+        QDropEvent drop({5, 5}, Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, {});
+        enter.ignore();
+        QCoreApplication::sendEvent(&target, &enter);
+        if (enter.isAccepted()) QCoreApplication::sendEvent(&target, &drop);
+        EXPECT_EQ(drop.isAccepted() && drop.dropAction() == Qt::CopyAction, enter.isAccepted());
+        return enter.isAccepted();
+    }
     void RightClick() { form->picMat_MouseDown(0, 2, 0, 0, 0); }
     [[nodiscard]] clsCard& Model() const { return form->Game(); }
     [[nodiscard]] Picture Card(int kind) const { return form->PicClip1.Cell(kind); }
