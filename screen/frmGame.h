@@ -188,11 +188,6 @@ private:
     void Resume();
     void GiveBackActiveCell();
     void TellTimedLock();
-    void RunDemo();
-    void DemoLock(std::size_t step, std::size_t turn);
-    void DemoMove(std::size_t step);
-    void EndDemo();
-    static void Show(PictureBox& box, const Picture& picture);  // at once
 
     void ShowInfo();
 
