@@ -19,7 +19,7 @@ void mdlFormFunc::GameOver() {
     form_.Timer2.Enabled(false);
     form_.prbTime.Value(0);
     form_.DropInput();
-    form_.TellEnd();
+    form_.TheNarrator().AddEnd();
     if (RowForScore(form_.lblScore.Caption())) form_.AskForName();
 }
 
@@ -29,11 +29,6 @@ void frmGame::DropInput() {
     covering_ = true;
     world_.time.DropInput();
     covering_ = false;
-}
-
-void frmGame::TellEnd() {
-    TellTimedLock();
-    narrator_->Add(QStringLiteral("Game over. %1.").arg(lblScore.access.name()));
 }
 
 void frmGame::AskForName() {

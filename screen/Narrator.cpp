@@ -1,7 +1,9 @@
 #include "screen/Narrator.h"
 
 #include <QAbstractEventDispatcher>
+#include <QLocale>
 
+#include "screen/Words.h"
 #include "screen/frmGame.h"
 
 namespace {
@@ -34,6 +36,24 @@ Narrator::Narrator(frmGame& form)
 
 void Narrator::Add(const QString& news) {
     if (QAccessible::isActive()) news_ += news;
+}
+
+void Narrator::AddTimedLock() {
+    if (!std::exchange(timedLock_, false)) return;
+    const std::int16_t cell = form_.Game().PosCurrentCard();
+    Add(form_.IsOccupied(cell) ? QStringLiteral("Time is up: locked in %1.").arg(PlaceInWords(cell))
+                               : QStringLiteral("Time is up."));
+}
+
+void Narrator::AddLock() {
+    AddTimedLock();
+    if (const std::int32_t points = form_.Game().SerieScore())
+        Add(QStringLiteral("Line scored: %1 points.").arg(QLocale().toString(points)));
+}
+
+void Narrator::AddEnd() {
+    AddTimedLock();
+    Add(QStringLiteral("Game over. %1.").arg(form_.lblScore.access.name()));
 }
 
 void Narrator::Look() {

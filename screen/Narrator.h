@@ -14,9 +14,17 @@ public:
     // `form` is a window with all its controls described, and outlives this.
     explicit Narrator(frmGame& form);
 
-    // A sentence to be told at the next look, after those added before it.
+    // Queues a sentence for the next look.
     void Add(const QString& news);
-    // Tells what is new. Runs by itself.
+    // A lock: the points of its lines.
+    void AddLock();
+    // The end of the game.
+    void AddEnd();
+    // The next lock is due to the time limit: AddTimedLock, AddLock or AddEnd, whichever comes first, also
+    // says where the card went, unless it completed a line or was an eraser.
+    void ExpectTimedLock() { timedLock_ = true; }
+    void AddTimedLock();
+    // Announces what is new. Runs by itself.
     void Look();
 
 private:
@@ -35,7 +43,8 @@ private:
 
     frmGame& form_;
     std::vector<Told> told_;
-    QStringList news_;  // not told yet
+    QStringList news_;  // not announced yet
+    bool timedLock_ = false;
     QString turn_;
     Control<QWidget> spot_;  // nobody sees it; its name is what was said last
     QString said_;

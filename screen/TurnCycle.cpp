@@ -5,7 +5,6 @@
 #include "model/Levels.h"
 #include "model/SaturatedSum.h"
 #include "screen/Narrator.h"
-#include "screen/Words.h"
 #include "screen/frmGame.h"
 #include "shell/mdlSound.h"
 
@@ -105,18 +104,10 @@ void frmGame::Resume() {
 void frmGame::Timer1_Timer() {
     Game().RndAction(true);
     GiveBackActiveCell();
-    timeIsUp_ = true;
+    narrator_->ExpectTimedLock();
     Game().PutInRndPlace();
-    TellTimedLock();
+    narrator_->AddTimedLock();
     if (play == Play::On) Game().RndAction(false);
-}
-
-// Told where the card is, unless it has completed a line or was an eraser.
-void frmGame::TellTimedLock() {
-    if (!std::exchange(timeIsUp_, false)) return;
-    const std::int16_t cell = Game().PosCurrentCard();
-    narrator_->Add(IsOccupied(cell) ? QStringLiteral("Time is up: locked in %1.").arg(PlaceInWords(cell))
-                                    : QStringLiteral("Time is up."));
 }
 
 void frmGame::GiveBackActiveCell() {
@@ -124,12 +115,6 @@ void frmGame::GiveBackActiveCell() {
     formFunc_.ClearDrawings(active);
     const bool overCard = Game().CheckForCard();
     picMat[active].Picture(overCard ? picTemp.Picture() : Picture());
-}
-
-void frmGame::TellLock() {
-    TellTimedLock();
-    if (const std::int32_t points = Game().SerieScore())
-        narrator_->Add(QStringLiteral("Line scored: %1 points.").arg(QLocale().toString(points)));
 }
 
 void frmGame::Timer2_Timer() {
@@ -142,7 +127,7 @@ void frmGame::Timer2_Timer() {
 
 void mdlFormFunc::StartNextTurn() {
     clsCard& game = form_.Game();
-    form_.TellLock();
+    form_.TheNarrator().AddLock();
     KeepAside(kStartCell);
     ClearDrawings(game.PosCurrentCard());
     game.PosCurrentCard(kStartCell);

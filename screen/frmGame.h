@@ -118,6 +118,7 @@ public:
     [[nodiscard]] clsCard& Game() { return *game_; }
     [[nodiscard]] const clsCard& Game() const { return *game_; }
     [[nodiscard]] World& TheWorld() { return world_; }
+    [[nodiscard]] Narrator& TheNarrator() { return *narrator_; }
 
     // What a game is doing, as far as the screen goes.
     enum class Play { Off, On, Paused };
@@ -127,9 +128,6 @@ public:
     // Takes input for the board only while a game is on.
     void SetPlay(Play now);
 
-    // Tell assistive technology of a lock (where the time put the card, the points of a line) and of the end.
-    void TellLock();
-    void TellEnd();
     void DropInput();
 
     // What the board shows: whether a locked card lies in `cell`, whether the active card is there, and in
@@ -187,7 +185,6 @@ private:
     void Pause();
     void Resume();
     void GiveBackActiveCell();
-    void TellTimedLock();
 
     void ShowInfo();
 
@@ -202,7 +199,6 @@ private:
     mdlFormFunc formFunc_{*this};
     std::unique_ptr<clsCard> game_;
     WindowMove move_;
-    bool timeIsUp_ = false;      // the lock that goes on is the time's, and not told yet
     bool timersPaused_ = false;  // the pause stopped running timers, so a resume starts them again
     bool skinsFinished_ = false;
     int clicks_ = 0;  // of menu buttons, to find out whether another came while a skin was read
