@@ -6,6 +6,14 @@
 #include "screen/Narrator.h"
 #include "screen/frmGame.h"
 
+namespace {
+
+void EnableMenu(MenuControls& menu, bool enabled) {
+    for (Image& button : menu.imgButton) button.Enabled(enabled);
+}
+
+}  // namespace
+
 void mdlFormFunc::InitHighScoreTable() {
     CreateHighScores();
 }
@@ -40,21 +48,17 @@ void frmGame::AskForName() {
     setFocusProxy(&txtName);  // a click beside the panel, to move the window, does not end the typing
     txtName.setFocus();
     txtName.selectAll();
-    EnableMenu(false);
+    EnableMenu(*this, false);
 }
 
 void frmGame::cmdOk_Click() {
     const QString today = QLocale().toString(world_.time.Today(), QLocale::ShortFormat);
     EnterHighScore({txtName.Text(), today, lblScore.Caption()});
     setFocusProxy(nullptr);
-    EnableMenu(true);
+    EnableMenu(*this, true);
     imgButton[0].setFocus();  // before the field is hidden, which would hand the keyboard to any control
     picEnterName.Visible(false);
     imgButton_Click(3);
-}
-
-void frmGame::EnableMenu(bool enabled) {
-    for (Image& button : imgButton) button.Enabled(enabled);
 }
 
 void frmGame::ShowScores() {

@@ -97,6 +97,8 @@ public:
     void cmdPrint_Click();
 
     // --- high scores (HighScores.cpp) ---
+    // Handles what is pending at the end of a game, but drops the player's input.
+    void DropInput();
     // Opens the name entry over the board; until its OK button the menu is closed.
     void AskForName();
     // Enters the score with the name typed, closes the name entry and shows the table.
@@ -127,8 +129,6 @@ public:
     std::int16_t nextCardShown = -1;  // its kind
     // Takes input for the board only while a game is on.
     void SetPlay(Play now);
-
-    void DropInput();
 
     // What the board shows: whether a locked card lies in `cell`, whether the active card is there, and in
     // which cell that is, -1 for none.
@@ -165,29 +165,30 @@ protected:
 private:
     void LayScreens();
 
-    // Which controls take the keyboard, and in what order (Keyboard.cpp).
+    // --- keyboard focus (Keyboard.cpp) ---
     void ConnectPauseKey();
     void OrderControls();
     void OrderSkinSlots();
     [[nodiscard]] bool BoardTakesKeys() const;
 
+    // --- what the menu starts (Menu.cpp; ShowScores in HighScores.cpp, ShowInfo in Help.cpp) ---
     void ShowScreen(std::int16_t index);
     // The action of a menu button; the failure as a sentence for the player, empty when it went well.
     QString RunAction(std::int16_t menu);
     QString StartGame();
-    QString LoadSkin();
     void ShowMenu();
     void ShowHelp();
     void ShowScores();
-    void EnableMenu(bool enabled);
+    void ShowInfo();
     void Highlight(std::int16_t menu);
 
+    // --- the turn cycle (TurnCycle.cpp) ---
     void Pause();
     void Resume();
     void GiveBackActiveCell();
 
-    void ShowInfo();
-
+    // --- skins (Skins.cpp) ---
+    QString LoadSkin();
     void ChooseSkin(std::int16_t slot);
     void ChooseNoSkin();
     std::shared_ptr<PictureSheet> LoadSheet(const QString& path, QString& why);
@@ -199,13 +200,13 @@ private:
     mdlFormFunc formFunc_{*this};
     std::unique_ptr<clsCard> game_;
     WindowMove move_;
+    Recording recording_;
+    std::unique_ptr<frmInfo> info_;
+    std::unique_ptr<Narrator> narrator_;
     bool timersPaused_ = false;  // the pause stopped running timers, so a resume starts them again
     bool skinsFinished_ = false;
     int clicks_ = 0;  // of menu buttons, to find out whether another came while a skin was read
-    Recording recording_;
     bool demoRuns_ = false;
     bool covering_ = false;  // the end of a game covers the board, from within the model
     bool unloaded_ = false;  // the model has gone, or goes when the demonstration that runs has unwound
-    std::unique_ptr<frmInfo> info_;
-    std::unique_ptr<Narrator> narrator_;
 };
