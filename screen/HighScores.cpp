@@ -2,9 +2,9 @@
 
 #include <QLocale>
 
-#include "screen/HighScoreTable.h"
 #include "screen/Narrator.h"
 #include "screen/frmGame.h"
+#include "screen/storage/HighScoreTable.h"
 
 namespace {
 

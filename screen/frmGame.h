@@ -9,7 +9,6 @@
 #include "platform/controls/KeyboardFocus.h"
 #include "platform/desktop/Timer.h"
 #include "platform/pictures/PictureClip.h"
-#include "screen/Recording.h"
 #include "screen/World.h"
 #include "screen/controls/BoardControls.h"
 #include "screen/controls/ChoiceControls.h"
@@ -19,6 +18,7 @@
 #include "screen/controls/ScoreControls.h"
 #include "screen/controls/WindowControls.h"
 #include "screen/mdlFormFunc.h"
+#include "screen/storage/Recording.h"
 #include "shell/WindowShape.h"
 
 class Narrator;

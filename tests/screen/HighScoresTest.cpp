@@ -1,5 +1,5 @@
-#include "screen/HighScoreTable.h"
-#include "screen/ScoreText.h"
+#include "screen/storage/HighScoreTable.h"
+#include "screen/storage/ScoreText.h"
 #include "tests/support/GameWindow.h"
 #include "tests/support/StoreFile.h"
 

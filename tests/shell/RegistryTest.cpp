@@ -4,7 +4,7 @@
 
 #include <csignal>
 
-#include "screen/HighScoreTable.h"
+#include "screen/storage/HighScoreTable.h"
 #include "tests/support/StoreFile.h"
 
 namespace {

@@ -4,7 +4,7 @@
 #include <numeric>
 
 #include "model/Levels.h"
-#include "screen/ScoreText.h"
+#include "screen/storage/ScoreText.h"
 #include "tests/simulation/Simulation.h"
 
 namespace {

@@ -4,7 +4,7 @@
 
 #include <QTest>
 
-#include "screen/HighScoreTable.h"
+#include "screen/storage/HighScoreTable.h"
 #include "tests/support/GameWindow.h"
 #include "tests/support/StoreFile.h"
 

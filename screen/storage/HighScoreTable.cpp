@@ -1,6 +1,6 @@
-#include "screen/HighScoreTable.h"
+#include "screen/storage/HighScoreTable.h"
 
-#include "screen/ScoreText.h"
+#include "screen/storage/ScoreText.h"
 #include "shell/mdlRegistry.h"
 
 namespace {

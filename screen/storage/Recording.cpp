@@ -1,4 +1,4 @@
-#include "screen/Recording.h"
+#include "screen/storage/Recording.h"
 
 #include <QFile>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "screen/ScoreText.h"
+#include "screen/storage/ScoreText.h"
 
 #include <algorithm>
 #include <limits>
