@@ -8,12 +8,12 @@
 
 namespace {
 
-// By level; the times in seconds. Practice has no limit.
+// By level; times in seconds. Practice has no limit.
 constexpr std::array<float, kLevels> ArrStartTime{0.0F, 10.0F, 6.0F, 3.8F, 2.2F};
 constexpr std::array<float, kLevels> ArrEndTime{0.0F, 7.0F, 4.0F, 1.7F, 1.5F};
 constexpr std::array<std::int16_t, kLevels> ArrLevelFactor{1, 2, 2, 5, 7};
 
-// The nearest whole number to a value of 0 or more, ties to the even one.
+// Rounds half to even. value: 0 or more.
 constexpr std::int16_t RoundToEven(float value) {
     const auto whole = static_cast<std::int16_t>(value);
     const float rest = value - static_cast<float>(whole);
@@ -39,8 +39,8 @@ consteval LockTimes MakeLockTimes() {
     return times;
 }
 
-// Worked out by the compiler, which rounds every step to single precision: at run time a processor that
-// multiplies and subtracts in one instruction, or a changed rounding mode, would move the ties.
+// Computed at compile time, where every step is rounded to single precision: at run time, a fused
+// multiply-subtract or another rounding mode would shift the ties.
 constexpr LockTimes kLockTimes = MakeLockTimes();
 
 }  // namespace

@@ -18,9 +18,9 @@ using LineCards = std::array<CardInfo, kSide>;
 inline constexpr std::size_t kMostLines = 3;
 
 // The lines through `cell` (0..15, asserted), always in the order column, row, main diagonal, anti-diagonal,
-// the diagonals only where the cell lies on them: two or three lines. Any two of them share that cell alone.
+// the diagonals only where the cell lies on them: two or three lines. Any two of them share only that cell.
 [[nodiscard]] std::span<const LineCells> LinesThrough(std::int16_t cell) noexcept;
 
-// What the four cards have in common, 0..3: one for each of equal AttrA, equal AttrB, equal Quantity and the
-// quantities 1 2 3 4 read either way. At least one of the cells must hold a card; then a gap shares nothing.
+// The elements that the four cards share, 0..3: one for each of equal AttrA, equal AttrB, equal Quantity and
+// the quantities 1 2 3 4 read either way. At least one of the cells must hold a card; gaps share nothing.
 [[nodiscard]] std::int16_t SharedElements(const LineCards& line) noexcept;

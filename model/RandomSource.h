@@ -2,14 +2,14 @@
 
 #include <cstdint>
 
-// Where random numbers come from. The program's are the system's; tests script theirs.
+// A source of random numbers: the system's in the program, a scripted one in tests.
 class RandomSource {
 public:
     virtual ~RandomSource() = default;
 
-    // Starts a fresh sequence, which no other call has started.
+    // Starts a new sequence, unlike those of earlier calls.
     virtual void Reseed() = 0;
 
-    // A whole number 0 .. count - 1, each equally likely. count: 1 or more (asserted).
+    // A uniformly distributed integer, 0 .. count - 1. count: 1 or more (asserted).
     [[nodiscard]] virtual std::int16_t Below(std::int16_t count) = 0;
 };

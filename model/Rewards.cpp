@@ -5,7 +5,7 @@
 
 #include "model/TableIndex.h"
 
-// By shared elements; the last row serves every greater total.
+// By shared elements; the last row covers all higher totals.
 static constexpr std::array<Reward, 6> kRewards{{
     {0, 0, 0},
     {10, 1, 106},

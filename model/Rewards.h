@@ -2,11 +2,11 @@
 
 #include <cstdint>
 
-// What a lock that completes lines earns.
+// The reward for a lock that completes lines.
 struct Reward {
-    std::int32_t points;      // before they are multiplied by the cards on the board and the level's factor
-    std::int16_t bonusCards;  // given back to the stack
-    std::int16_t sound;       // the built-in sound it makes; 0 for the row that earns nothing
+    std::int32_t points;      // before multiplication by the cards on the board and the level's factor
+    std::int16_t bonusCards;  // returned to the stack
+    std::int16_t sound;       // a built-in sound; 0 in the row that earns nothing
 };
 
 // sharedElements: the total over all lines of one lock, 0 or more (asserted).

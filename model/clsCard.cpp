@@ -37,7 +37,7 @@ Step StepFor(std::int32_t key) {
     return step == kSteps.end() ? Step{key, 0, 0} : *step;
 }
 
-// Works for the board and its constant alike.
+// Serves const and non-const boards.
 auto& RecordIn(auto& matrix, std::int16_t cell) {
     const std::size_t index = TableIndex(cell, kCells);
     return matrix[index / kSide][index % kSide];
@@ -118,7 +118,7 @@ void clsCard::LockActiveCard() {
 }
 
 void clsCard::PutInRndPlace() {
-    // A full board has ended the game; should a call come all the same, it would draw cells without end.
+    // A full board has ended the game; on one, the loop below would never terminate.
     if (!HasFreeCell()) return;
 
     random_.Reseed();
@@ -143,7 +143,7 @@ void clsCard::PlaceCurrentCard() {
 
 void clsCard::FinishLock() {
     cardsInMatrix_ = SaturatedSum(cardsInMatrix_, 1);
-    CheckLines();  // first: a sixteenth card that completes a line frees the board again
+    CheckLines();  // first: a sixteenth card that completes a line frees cells
     if (cardsInMatrix_ == kCells) return screen_.GameOver();
     screen_.StartNextTurn();
     if (cardsUsed_ == kCardsInGame) screen_.GameOver();
@@ -151,7 +151,7 @@ void clsCard::FinishLock() {
 
 // --- the eraser ---
 
-// It is spent whether or not a card lay under it and, unlike a lock, takes no card from the stack.
+// It is used up even over an empty cell and, unlike a lock, takes no card from the stack.
 void clsCard::UseEraser() {
     EraseActiveCell();
     DealAfterEraser();
@@ -164,8 +164,8 @@ void clsCard::EraseActiveCell() {
     const std::int16_t cell = ActiveCell();
     if (CheckForCard()) cardsInMatrix_ = SaturatedSum(cardsInMatrix_, -1);
     EmptyCell(cell);
-    // The next card covers the start cell, so what that shows is put aside now: nothing, when it was the one
-    // erased (its picture is still the eraser's).
+    // The next card covers the start cell, so save its picture now; if it is the erased cell, save none, as
+    // it still shows the eraser.
     if (cell == kStartCell)
         screen_.KeepNothingAside();
     else
@@ -194,7 +194,7 @@ void clsCard::CheckLines() {
     }
     ScoreLines(total);
 
-    // Only now, when every line has been looked at: they all share the locked cell.
+    // Clear only after counting all lines: they share the locked cell.
     std::int16_t cleared = 0;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         if (shared[i] == 0) continue;
@@ -215,7 +215,7 @@ void clsCard::ScoreLines(std::int16_t sharedElements) {
         return;
     }
     const Reward& reward = RewardFor(sharedElements);
-    // Taken before the lines leave the board, whose cards count too; 32 bits hold it for any 16-bit count.
+    // Computed before the lines are cleared, as their cards count too; 32 bits suffice for any 16-bit count.
     serieScore_ = reward.points * cardsInMatrix_ * LevelFactor(setLevel_);
     screen_.PlayWave(reward.sound);
     score_ = SaturatedSum(score_, serieScore_);

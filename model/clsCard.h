@@ -13,7 +13,7 @@
 class GameScreen;
 class RandomSource;
 
-// The keys a card is played with: virtual-key codes, as the screen passes them to MoveCard.
+// The keys that MoveCard takes, as virtual-key codes.
 inline constexpr std::int32_t kKeyLock = 32;
 inline constexpr std::int32_t kKeyLeft = 37;
 inline constexpr std::int32_t kKeyUp = 38;
@@ -22,49 +22,48 @@ inline constexpr std::int32_t kKeyDown = 40;
 
 inline constexpr std::int16_t kCardsInGame = 100;
 
-// The one game: deck, board, placement of the active card, eraser, timed lock, lines and levels. It knows no
-// window: what the player sees and hears it asks of the GameScreen. Created once, reused for every game.
-// Properties are pairs of overloads: a reader, and a writer that stores without checking unless said
-// otherwise.
+// The one game: deck, board, placement of the active card, eraser, timed lock, lines and levels. It is
+// independent of any window: GameScreen shows and plays everything. Created once, reused for every game.
+// Properties are overload pairs: a getter, and a setter that stores without validation unless noted.
 class clsCard {
 public:
-    // Both must outlive the model. No card is dealt and nothing is asked of the screen before NewGame.
+    // Both must outlive the model. Deals no card and makes no call to the screen before NewGame.
     clsCard(GameScreen& screen, RandomSource& random);
 
     // Starts a game: the screen's reset deals the first two cards, then the board is emptied. The caller
-    // has set the counters and scores to their start values. Restarts a running game too.
+    // must have reset the counters and scores. Restarts a running game too.
     void NewGame();
 
-    // Moves or locks the active card. MoveTo: one of the kKey codes; an arrow at the board's edge does
-    // nothing, any other code shows the card again where it is.
+    // Moves or locks the active card. MoveTo: one of the kKey codes; an arrow that points off the board
+    // does nothing, any other code redraws the card in place.
     void MoveCard(std::int32_t MoveTo);
     // Asks the screen to move the active card's picture from cell CardOldPos to PosCurrentCard.
     void PutCard(std::int16_t CardOldPos);
-    // The lock time is over: locks the active card in a random free cell, or spends the eraser there.
+    // The lock time is over: locks the active card in a random free cell, or uses the eraser there.
     void PutInRndPlace();
     // True when the active card's cell holds a locked card.
     [[nodiscard]] bool CheckForCard() const;
-    // What lies in `cell` (0..15, asserted).
+    // The contents of `cell` (0..15, asserted).
     [[nodiscard]] const CardInfo& CardAt(std::int16_t cell) const;
 
-    // Plays the sound file Source through the screen. Async: do not wait for its end (every caller's choice);
-    // SourceType and PlayType: flags of the platform's sound call. False when nothing will be heard.
+    // Plays the sound file Source through the screen. Async: return at once (all callers do); SourceType,
+    // PlayType: sound flags. False if nothing will be heard.
     bool PlaySoundFromFile(std::string_view Source, bool Async, std::uint32_t SourceType,
                            std::uint32_t PlayType);
-    // Plays a file of the program's folder the way the whole game does: at once, without a default sound.
+    // Plays a file of the program's folder with the game's usual flags: asynchronously, no default sound.
     bool PlaySoundFromFile(std::string_view Source);
 
     // --- the deck ---
     [[nodiscard]] std::int16_t CardSum() const { return cardSum_; }  // cards in one game
     void CardSum(std::int16_t value) { cardSum_ = value; }
-    // Cards consumed: +1 a lock, minus bonus cards; may be negative, never leaves the 16-bit range.
+    // Cards used: one per lock, minus bonus cards; may be negative, saturates at 16 bits.
     [[nodiscard]] std::int16_t CardsUsed() const { return cardsUsed_; }
     void CardsUsed(std::int16_t value) { cardsUsed_ = value; }
     [[nodiscard]] std::int16_t CurrentCard() const { return currentCard_; }  // kind of the active card
     void CurrentCard(std::int16_t value) { currentCard_ = value; }
-    [[nodiscard]] std::int16_t NextCard() const { return nextCard_; }  // kind of the card that comes next
-    void NextCard(std::int16_t kinds);  // draws it among that many kinds (1 or more), after re-seeding
-    // What CurrentCard is drawn with at a new game: a kind 0..38, without re-seeding.
+    [[nodiscard]] std::int16_t NextCard() const { return nextCard_; }  // kind of the next card
+    void NextCard(std::int16_t kinds);  // re-seeds and draws it from that many kinds (1 or more)
+    // Draws a kind 0..38 without re-seeding, for the first card of a game.
     [[nodiscard]] std::int16_t DrawKind();
 
     // --- the board ---
@@ -84,7 +83,7 @@ public:
     [[nodiscard]] std::int16_t SetLevel() const { return setLevel_; }  // 0 practice .. 4 master
     // Recomputes CurrentInterval too; a level outside 0..4 is ignored (asserted).
     void SetLevel(std::int16_t level);
-    // Lock time in milliseconds; 0: none.
+    // Lock time in milliseconds; 0: no limit.
     [[nodiscard]] std::int16_t CurrentInterval() const { return currentInterval_; }
     void CurrentInterval(std::int16_t value) { currentInterval_ = value; }
 
@@ -95,16 +94,16 @@ public:
     void DemoAction(bool value) { demoAction_ = value; }
 
 private:
-    // The active cell as a cell of the board, whatever PosCurrentCard was given.
+    // PosCurrentCard, clamped to a valid cell.
     [[nodiscard]] std::int16_t ActiveCell() const;
     [[nodiscard]] CardInfo& RecordOf(std::int16_t cell);
     [[nodiscard]] bool HasFreeCell() const;
     void EmptyCell(std::int16_t cell);
 
     void LockActiveCard();
-    void StoreCurrentCard();  // into the board only: where it was moved by hand, its picture is there already
-    void PlaceCurrentCard();  // stores it and shows it
-    void FinishLock();        // what follows every lock: count, lines, then the end or the next turn
+    void StoreCurrentCard();  // not on screen: a card moved by hand is already drawn
+    void PlaceCurrentCard();  // also on screen
+    void FinishLock();        // after every lock: count, lines, then the end or the next turn
 
     void UseEraser();
     void EraseActiveCell();

@@ -5,7 +5,7 @@
 // 0x00BBGGRR: red in the low byte. The high byte of a stored colour may hold anything and is never painted.
 using Colour = std::int32_t;
 
-// What a brush takes of `colour`: its three low bytes.
+// The part of `colour` that is painted: its three low bytes.
 [[nodiscard]] constexpr Colour BrushColour(Colour colour) noexcept {
     return colour & 0xFFFFFF;
 }

@@ -16,8 +16,8 @@ constexpr std::array<Way, 4> kWays{{{true, true}, {true, false}, {false, true}, 
 
 }  // namespace
 
-// Positions are worked out in the order they are written here. Length * Percent / 100 would be the same to
-// the eye and still move the fill line across a pixel's middle or past a band's edge for some lengths.
+// The order of operations matters. Length * Percent / 100 looks equivalent, but rounds differently and would
+// move the fill line to another pixel or band for some lengths.
 FillTrack::FillTrack(const ProgBarState& state, std::int32_t width, std::int32_t height)
     : whole_{0, 0, width, height},
       hasDirection_{state.FillDirection >= kBottomToTop && state.FillDirection <= kLeftToRight} {

@@ -7,8 +7,8 @@
 
 namespace {
 
-// The difference is taken in double precision, where it cannot overflow. Only a loaded store can leave the
-// bounds equal; nothing lies between them then, and nothing is filled.
+// Subtracts in double precision, where nothing overflows. Only a loaded bar can have equal bounds; it counts
+// as empty.
 std::uint8_t PercentOf(const ProgBarState& state) {
     if (state.Max == state.Min) return 0;
     const double done = static_cast<double>(state.Value) - state.Min;
@@ -21,8 +21,7 @@ std::int32_t ValueAt(const ProgBarState& state) {
     return Floor(state.Percent / 100.0 * range + state.Min);
 }
 
-// Not std::clamp, which bounds in the wrong order, as a damaged store can leave them, make undefined.
-// Such a value becomes `max`.
+// Not std::clamp, which is undefined for min > max, as a damaged store can have it; the result is then `max`.
 std::int32_t Between(std::int32_t value, std::int32_t min, std::int32_t max) {
     return std::min(std::max(value, min), max);
 }
@@ -144,7 +143,7 @@ void ProgBar::Take(const StoredProperties& stored) {
     surface_.ForeColour(stored.FontColour);
 }
 
-// The container hears of it at once, before the repaint: its key comes ahead of the written property's.
+// Notifies before the repaint, so this key precedes that of the written property.
 void ProgBar::SwitchOff(bool& caption, std::string_view key) {
     caption = false;
     container_.PropertyChanged(key);

@@ -14,10 +14,10 @@
 #include "progbar/StoredProperties.h"
 
 // A self-drawn progress bar: fills its surface in proportion to Value between Min and Max, and can print a
-// caption over the bar. The game's one, prbTime, shows how much of the time to lock the active card is gone.
+// caption over the bar. The game's only one, prbTime, shows how much of the lock time has passed.
 //
-// Properties are pairs of overloads. A writer never refuses: it brings the value into its range, stores it,
-// updates what depends on it, repaints the whole bar and tells the container the keys that changed.
+// Properties are overload pairs. A setter never fails: it clamps the value, stores it, updates dependent
+// properties, repaints the whole bar and notifies the container of the changed keys.
 class ProgBar {
 public:
     // Both must outlive the bar. Nothing is painted before the first event or property write.
@@ -25,18 +25,18 @@ public:
     ProgBar(const ProgBar&) = delete;
     ProgBar& operator=(const ProgBar&) = delete;
 
-    // Where the bar stands. Value and Percent follow each other; when a bound moves, Percent is what stays.
+    // The position. Value and Percent follow each other; a change of a bound keeps Percent.
     // All arithmetic is in double precision, rounded down.
 
-    // Brought into Min..Max. Percent follows.
+    // Clamped to Min..Max. Percent follows.
     [[nodiscard]] std::int32_t Value() const { return state_.Value; }
     void Value(std::int32_t value);
 
-    // Stays below Max: a greater one becomes Max - 1. Value follows.
+    // Must be below Max, else becomes Max - 1. Value follows.
     [[nodiscard]] std::int32_t Min() const { return state_.Min; }
     void Min(std::int32_t value);
 
-    // Stays above Min: a lesser one becomes Min + 1. Value follows.
+    // Must be above Min, else becomes Min + 1. Value follows.
     [[nodiscard]] std::int32_t Max() const { return state_.Max; }
     void Max(std::int32_t value);
 
@@ -44,7 +44,7 @@ public:
     [[nodiscard]] std::uint8_t Percent() const { return state_.Percent; }
     void Percent(std::uint8_t value);
 
-    // The caption. ShowValue and ShowPercent switch each other off when they are switched on.
+    // The caption. Switching on ShowValue or ShowPercent switches off the other.
 
     // "Value/Max", after the message if that is shown.
     [[nodiscard]] bool ShowValue() const { return state_.ShowValue; }
@@ -61,11 +61,11 @@ public:
     [[nodiscard]] const std::string& Message() const { return state_.Message; }
     void Message(std::string value);
 
-    // Prints the caption's characters one under the other.
+    // Stacks the caption's characters vertically.
     [[nodiscard]] bool VerticalText() const { return state_.VerticalText; }
     void VerticalText(bool value);
 
-    // The caption's colour; it lives in the surface.
+    // The caption's colour, stored in the surface.
     [[nodiscard]] Colour FontColour() const { return surface_.ForeColour(); }
     void FontColour(Colour value);
 
@@ -79,7 +79,7 @@ public:
     [[nodiscard]] std::int32_t FillDirection() const { return state_.FillDirection; }
     void FillDirection(std::int32_t value);
 
-    // 0 none, 1 a line; brought into 0..1. It lives in the surface.
+    // 0 none, 1 a line; clamped. Stored in the surface.
     [[nodiscard]] std::int32_t BorderStyle() const { return surface_.BorderStyle(); }
     void BorderStyle(std::int32_t value);
 
@@ -94,22 +94,22 @@ public:
     [[nodiscard]] Colour BackColour() const { return state_.BackColour; }
     void BackColour(Colour value);
 
-    // Kept for the container. The bar plays no sound, so none of the three repaints, and only the first,
-    // which has a writer, tells the container.
+    // Stored for the container. The bar plays no sound, so none of the three repaints, and only WaitForSound
+    // notifies the container.
     [[nodiscard]] bool WaitForSound() const { return state_.WaitForSound; }
     void WaitForSound(bool value);
     std::string SoundToPlay;
     bool PlaySound = false;
 
-    // The container's events. A bar gets one of the first two, once, before anything else.
+    // The container's events. A bar gets one of the first two, once, before all others.
 
-    // A bar is placed for the first time: everything takes its first value. Does not paint.
+    // A new bar: sets all defaults. Does not paint.
     void UserControl_InitProperties();
-    // A stored bar is loaded: values are taken as they are, in range or not. Does not paint.
+    // A stored bar: loads its values without validation. Does not paint.
     void UserControl_ReadProperties(const PropertyBag& bag);
-    // The container saves.
+    // Saves the bar.
     void UserControl_WriteProperties(PropertyBag& bag) const;
-    // Paints the whole bar; both do.
+    // Both paint the whole bar.
     void UserControl_Paint();
     void UserControl_Resize();
 
@@ -117,9 +117,9 @@ private:
     void Take(const StoredProperties& stored);
     void SwitchOff(bool& caption, std::string_view key);
     void ValueFollowsPercent();
-    // The end of every write that shows: repaints, then notifies in the order given.
+    // Ends every visible write: repaints, then notifies in the given order.
     void Changed(std::initializer_list<std::string_view> keys);
-    // A whole write, for a property that needs no adjustment and has nothing depending on it.
+    // The whole setter of a property without range or dependent properties.
     template <class T>
     void Store(T& property, T value, std::string_view key);
 

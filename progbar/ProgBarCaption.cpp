@@ -5,10 +5,10 @@
 
 namespace {
 
-// Placement is in hundredths of the surface, whatever its size.
+// Positions are in hundredths of the surface.
 constexpr double kScale = 100;
 
-// Where UTF-8 text falls apart into characters. A stray continuation byte stays with what stands before it.
+// Splits UTF-8 text into characters. A stray continuation byte stays with the character before it.
 std::vector<std::string_view> CharactersOf(std::string_view text) {
     std::vector<std::string_view> characters;
     while (!text.empty()) {

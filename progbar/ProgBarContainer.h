@@ -7,7 +7,7 @@ class ProgBarContainer {
 public:
     virtual ~ProgBarContainer() = default;
 
-    // The property stored under `key` (a key of PropertyBag) was written, perhaps with the value it had.
-    // Called after the new value is stored and, but for a caption switched off by the other, painted.
+    // The property stored under `key` (a key of PropertyBag) was written, even if with the same value.
+    // Called once the new value is stored and, except for a caption switched off by the other, painted.
     virtual void PropertyChanged(std::string_view key) = 0;
 };

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::array<GradientDepth, 6> kDepths{{{4, 64}, {8, 64}, {15, 32}, {16, 256}, {24, 256}, {32, 256}}};
 
-// The colour of band `i` of `bands`: each channel on its own, rounded down.
+// The colour of band `i` of `bands`: channels are interpolated separately, rounding down.
 Colour BandColour(Colour from, Colour to, int i, int bands) {
     Colour mixed = 0;
     for (const int shift : {0, 8, 16}) {
@@ -22,7 +22,7 @@ Colour BandColour(Colour from, Colour to, int i, int bands) {
     return mixed;
 }
 
-// Paints the bands short of the fill line. Returns the band it stopped at, `bands` when all were painted.
+// Paints the bands before the fill line. Returns the index it stopped at, `bands` if it painted all.
 int DrawBands(const ProgBarState& state, const FillTrack& track, int bands, DrawingSurface& surface) {
     for (int i = 0; i < bands; ++i) {
         const Rect band = track.Band(i, bands);
@@ -32,8 +32,8 @@ int DrawBands(const ProgBarState& state, const FillTrack& track, int bands, Draw
     return bands;
 }
 
-// The last band closes a full gradient with the exact end colour, which the bands only come near. Without a
-// direction no band has a place, and the last one alone is the bar.
+// The last band ends a full gradient with the exact end colour, which the others only approximate. Without a
+// direction, the last band alone is the bar.
 void DrawGradient(const ProgBarState& state, const FillTrack& track, int bands, DrawingSurface& surface) {
     if (track.HasDirection() && DrawBands(state, track, bands, surface) < bands - 1) return;
     surface.FillRect(track.Band(bands - 1, bands), BrushColour(state.BarEndColour));

@@ -15,7 +15,7 @@ inline constexpr std::int32_t kTopToBottom = 1;
 inline constexpr std::int32_t kRightToLeft = 2;
 inline constexpr std::int32_t kLeftToRight = 3;
 
-// What a bar holds itself and paints from; the values here are those of a newly placed bar.
+// The properties that a bar stores itself and paints from, with the defaults of a new bar.
 // Property writes keep Min < Max, Percent <= 100 and BarStyle and FillDirection in range, but loaded values
 // are not validated, so code that reads a state must tolerate any value.
 struct ProgBarState {
@@ -23,15 +23,15 @@ struct ProgBarState {
     std::int32_t Min = 0;
     std::int32_t Max = 100;
     std::int32_t Value = 0;
-    bool ShowPercent = false;  // never switched on together with ShowValue
+    bool ShowPercent = false;  // never on together with ShowValue
     std::string Message{};     // UTF-8
     bool ShowMessage = false;
-    Colour BarStartColour = 0x0000FF;  // the whole bar's when it is solid
+    Colour BarStartColour = 0x0000FF;  // of the whole bar if solid
     Colour BarEndColour = 0x000000;
     bool ShowValue = false;
     std::int32_t FillDirection = kLeftToRight;
     Colour BackColour = 0xFFFFFF;
-    bool VerticalText = false;  // the caption's characters stand one under the other
+    bool VerticalText = false;  // stacks the caption's characters
     std::int32_t BarStyle = kSolidBar;
-    bool WaitForSound = false;  // kept for the container; the bar plays nothing
+    bool WaitForSound = false;  // stored for the container
 };

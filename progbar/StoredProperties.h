@@ -6,8 +6,8 @@
 #include "progbar/ProgBarState.h"
 #include "progbar/PropertyBag.h"
 
-// All that the container stores of a bar: its state, its two free fields and its surface's two properties.
-// The first values are at once those of a newly placed bar and the defaults of keys that are not stored.
+// Everything the container stores for a bar: its state, its two free fields and its surface's two properties.
+// The initial values are the defaults of both a new bar and missing keys.
 struct StoredProperties : ProgBarState {
     std::string SoundToPlay{};
     bool PlaySound = false;
@@ -15,9 +15,9 @@ struct StoredProperties : ProgBarState {
     Colour FontColour = 0xFF0000;
 };
 
-// Reads every key once, in the order stores have always been read. Values are taken unchecked; a missing key
-// or one of another type gives its default.
+// Reads every key once, in a fixed order. Values are not validated; a missing key or one of another type gets
+// its default.
 [[nodiscard]] StoredProperties ReadStored(const PropertyBag& bag);
 
-// Writes every key once, with its default, in the order stores have always been written.
+// Writes every key once, with its default, in a fixed order.
 void WriteStored(const StoredProperties& stored, PropertyBag& bag);

@@ -24,7 +24,7 @@ void BarSurface::Resize(QSize size, qreal scale) {
     font_.setPixelSize(qMax(1, qRound(11 * scale)));  // 8.25 points
 }
 
-// A bar is a few hundred of these: filled without a painter, which would cost more than the pixels.
+// A bar takes hundreds of these, so fill directly: a QPainter would cost more than the pixels.
 void BarSurface::FillRect(const Rect& area, Colour colour) {
     const int left = std::max(area.left, 0), right = std::min(area.right, pixels_.width() - 2 * Border());
     const int top = std::max(area.top, 0), bottom = std::min(area.bottom, pixels_.height() - 2 * Border());

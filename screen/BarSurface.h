@@ -5,11 +5,10 @@
 
 #include "progbar/DrawingSurface.h"
 
-// The pixels a time bar paints on: an image that keeps what was painted, in device pixels, so that the bar is
-// sharp at every scale.
+// The image a time bar paints on, in device pixels, so that the bar is sharp at every scale.
 class BarSurface final : public DrawingSurface {
 public:
-    // Starts over with an empty image of `size` device pixels, `scale` of them to a logical one.
+    // Starts over with an empty image of `size` device pixels, `scale` of them per logical pixel.
     void Resize(QSize size, qreal scale);
     [[nodiscard]] const QImage& Pixels() const { return pixels_; }
 
@@ -35,5 +34,5 @@ private:
     QFont font_;
     Colour foreColour_ = 0;
     std::int16_t borderStyle_ = 0;
-    double unitX_ = 1, unitY_ = 1;  // pixels to a unit of the scale in force
+    double unitX_ = 1, unitY_ = 1;  // pixels per unit of the current scale
 };

@@ -6,7 +6,7 @@
 
 #include "platform/controls/MouseControl.h"
 
-// Where one element of a control array stands.
+// The place of one element of a control array.
 struct Spot {
     QWidget* holder;
     TwipsRect place;
@@ -14,7 +14,7 @@ struct Spot {
 };
 
 // The spots of `N` elements in `holder`, row by row in `columns` columns; `first` is that of the first
-// element, the others follow `stepX` to the right and `stepY` down.
+// element; columns are `stepX` apart, rows `stepY`.
 template <std::size_t N>
 std::array<Spot, N> Grid(QWidget* holder, const TwipsRect& first, int columns, Twips stepX, Twips stepY) {
     std::array<Spot, N> spots{};
@@ -25,12 +25,12 @@ std::array<Spot, N> Grid(QWidget* holder, const TwipsRect& first, int columns, T
     return spots;
 }
 
-// A control array: `N` controls that share a name and have a number, with which the model's integers index
-// them. They are built in place, since controls can neither be copied nor moved.
+// A control array: `N` controls with one name, indexed by the model's integers. They are built in place,
+// since controls can be neither copied nor moved.
 template <class ControlType, std::size_t N>
 class ControlArray {
 public:
-    // `more`: what else the constructor of a control wants.
+    // `more`: further arguments of a control's constructor.
     template <class... More>
     ControlArray(const char* name, const std::array<Spot, N>& spots, More... more)
         : controls_(Build(name, spots, std::make_index_sequence<N>(), more...)) {}
@@ -59,7 +59,7 @@ private:
     std::array<ControlType, N> controls_;
 };
 
-// Makes `handler` of `form` hear the mouse over each element, with the element's number.
+// Connects `event` of each element to `handler` of `form`, which gets the element's index.
 template <class ControlType, std::size_t N, class Form>
 void OnEach(ControlArray<ControlType, N>& controls, std::type_identity_t<MouseHandler ControlType::*> event,
             Form& form, void (Form::*handler)(std::int16_t, std::int16_t, std::int16_t, float, float)) {

@@ -1,6 +1,6 @@
-// The demonstration: a real game, played by feeding the board's own mouse handlers from a script. Whatever
-// the player does meanwhile runs inside its event processing and asks it to stop by StopDemo, which is looked
-// at before every step; so nothing a step uses may go before the demonstration has unwound.
+// The demonstration: a real game, played by feeding the board's mouse handlers from a script. The player's
+// input runs inside its event processing and can stop it with StopDemo, which is checked before every step;
+// so everything a step uses must live until the demonstration returns.
 
 #include "screen/DemoScript.h"
 #include "screen/Narrator.h"
@@ -43,7 +43,7 @@ private:
 void Demonstration::Run() {
     for (PictureBox& cell : form_.picMat) Show(cell, {});
     form_.imgButton_Click(0);
-    if (form_.play != frmGame::Play::On) return;  // there was no skin to play with
+    if (form_.play != frmGame::Play::On) return;  // no skin to play with
     form_.StopDemo = false;
     for (PictureBox& cell : form_.picMat) cell.Enabled(false);
     Show(form_.picMat[kStartCell], form_.PicClip1.Cell(DemoScriptCards[0]));
@@ -97,7 +97,7 @@ void Demonstration::Move() {
 
 void Demonstration::End() {
     for (PictureBox& cell : form_.picMat) Show(cell, form_.PicClip1.Cell(kCoverKind));
-    form_.SetPlay(frmGame::Play::Off);  // the board takes nothing until the next game
+    form_.SetPlay(frmGame::Play::Off);  // no board input until the next game
     form_.boardCovered = true;
     for (Timer* timer : {&form_.Timer1, &form_.Timer2, &form_.Timer3}) timer->Enabled(false);
 }

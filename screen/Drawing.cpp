@@ -1,5 +1,5 @@
-// How the board is drawn. picTemp holds what lies under the active card: a move gives it back to the cell
-// that is left, then takes the picture of the cell that is entered.
+// Drawing the board. picTemp holds the picture under the active card: a move restores it to the old cell,
+// then saves that of the new cell.
 
 #include <cassert>
 
@@ -13,7 +13,7 @@ constexpr QPoint kFrameFrom(2, 2), kFrameTo(58, 58);
 constexpr QPoint kWholeFrom(0, 0), kWholeTo(60, 60);
 constexpr int kFrameWidth = 3;
 
-// The picture box of a board cell; a number that is none gives the start cell, where drawing does no harm.
+// The picture box of a board cell; an invalid number gives the start cell, where drawing does no harm.
 PictureBox& Cell(frmGame& form, std::int16_t cell) {
     const bool onBoard = cell >= 0 && cell < kCells;
     assert(onBoard);

@@ -1,4 +1,4 @@
-// The end of a game, the name of a player who is among the four best, and the screen that shows them.
+// The end of a game, the name entry for the four best, and the high-score screen.
 
 #include <QLocale>
 
@@ -31,8 +31,8 @@ void mdlFormFunc::GameOver() {
     if (RowForScore(form_.lblScore.Caption())) form_.AskForName();
 }
 
-// What was pressed while the board was being covered was meant for the game, not for the name entry. No timer
-// may run here: a late tick would play on.
+// Input during the cover was meant for the game, not for the name entry. No timer may run here: a late tick
+// would continue the game.
 void frmGame::DropInput() {
     covering_ = true;
     world_.time.DropInput();
@@ -45,7 +45,7 @@ void frmGame::AskForName() {
     picEnterName.Top(board.Top() + board.Height() / 2 - picEnterName.Height() / 2);
     picEnterName.raise();
     picEnterName.Visible(true);
-    setFocusProxy(&txtName);  // a click beside the panel, to move the window, does not end the typing
+    setFocusProxy(&txtName);  // a click beside the panel, to move the window, keeps the focus
     txtName.setFocus();
     txtName.selectAll();
     EnableMenu(*this, false);
@@ -56,7 +56,7 @@ void frmGame::cmdOk_Click() {
     EnterHighScore({txtName.Text(), today, lblScore.Caption()});
     setFocusProxy(nullptr);
     EnableMenu(*this, true);
-    imgButton[0].setFocus();  // before the field is hidden, which would hand the keyboard to any control
+    imgButton[0].setFocus();  // before the field is hidden, which would focus an arbitrary control
     picEnterName.Visible(false);
     imgButton_Click(3);
 }

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The virtual-key code of a key; 0 for those the game has no use for.
+// The virtual-key code of a key; 0 for keys the game does not use.
 std::int16_t VirtualKey(int key) {
     switch (key) {
         case Qt::Key_Escape:
@@ -29,7 +29,7 @@ std::int16_t VirtualKey(int key) {
 
 }  // namespace
 
-// During a game its keys go to the board, whatever has the focus; Tab and Enter still reach the rest.
+// During a game its keys go to the board, whatever has the focus; Tab and Enter work as usual.
 bool frmGame::BoardTakesKeys() const {
     return fraScreen[0].Visible() && (play != Play::Off || demoRuns_);
 }
@@ -40,11 +40,11 @@ void frmGame::keyPressEvent(QKeyEvent* event) {
         if (!AnswerKey(*this, *event)) QWidget::keyPressEvent(event);
         return;
     }
-    // A key would put the script of a demonstration out of step with its board; leaving is always possible.
+    // A key would put a demonstration's script out of step with its board; Escape always works.
     if (!demoRuns_ || event->key() == Qt::Key_Escape) Form_KeyDown(key, 0);
 }
 
-// A shortcut is meant by its key: it finds the P of a Cyrillic or Greek keyboard too.
+// A shortcut, so that P also works on Cyrillic and Greek keyboards.
 void frmGame::ConnectPauseKey() {
     auto* pause = new QShortcut(this);
     pause->setKeys({Qt::Key_P, Qt::SHIFT | Qt::Key_P});
@@ -54,8 +54,7 @@ void frmGame::ConnectPauseKey() {
     });
 }
 
-// From the menu through the screen that is shown to the links and the corner. A hidden control is passed
-// over.
+// From the menu through the current screen to the links and the corner. Hidden controls are skipped.
 void frmGame::OrderControls() {
     std::vector<QWidget*> order{this, &imgButton[0], &imgButton[1], &imgButton[3], &imgButton[2]};
     for (Label& level : lblClass) order.push_back(&level);
@@ -73,7 +72,7 @@ void frmGame::OrderControls() {
     imgButton[0].setFocus();
 }
 
-// Only the slots that hold a skin take the keyboard.
+// Only slots with a skin take the focus.
 void frmGame::OrderSkinSlots() {
     for (std::int16_t slot = 0; slot < picSkin.size(); ++slot)
         picSkin[slot].setFocusPolicy(slot < SkinCount ? Qt::TabFocus : Qt::NoFocus);

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-// The web addresses of the game, and how the window names them.
+// The web addresses of the game, and their texts in the window.
 namespace Links {
 
 inline const QString kHomePage = QStringLiteral("https://tesselor.example/");

@@ -28,7 +28,7 @@ constexpr Size SizeOf(Text text) {
     return {13, QFont::Normal};
 }
 
-// Light stone for what holds text, the grey-blue of the table for what can be pressed.
+// Light stone behind text, the grey-blue of the table for buttons.
 QPalette Palette() {
     QPalette palette;
     const QColor ink(32, 52, 100);

@@ -10,13 +10,13 @@ class QApplication;
 // The one look of all windows: colours, the type family and its sizes.
 namespace Look {
 
-// Given colours, laid out 0x00BBGGRR.
+// Colours, as 0x00BBGGRR.
 inline constexpr Colour kLitCaption = 0x50FE6A;  // the highlighted menu caption
 inline constexpr Colour kLevel = 0x643420;       // a level name, and the text of the light screens
 inline constexpr Colour kLink = 0xC00000;        // a web link
 inline constexpr Colour kTray = 0x808080;        // behind the board and the preview
 inline constexpr Colour kPanel = 0xE0E0E0;       // the name entry
-// The house's own.
+// The house palette.
 inline constexpr Colour kNumber = 0xA8DCF4;     // score and cards left: pale brass on the stone
 inline constexpr Colour kFloor = 0x2E160D;      // of the recess that holds the screens
 inline constexpr Colour kWell = 0xC4D6DC;       // the recesses that hold levels and skins

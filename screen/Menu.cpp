@@ -1,4 +1,4 @@
-// The menu bar, the level list and the two images at the window's corner.
+// The menu bar, the level list and the two images in the window's corner.
 
 #include <QApplication>
 
@@ -91,7 +91,7 @@ QString frmGame::StartGame() {
     Game().NewGame();
     SetPlay(Play::On);
     lblCardsLeft.Visible(true);
-    setFocus();  // the board takes the keys, whatever had them
+    setFocus();  // the board gets the keys, whatever had the focus
     recording_.NewGame(Game().CurrentCard());
     return {};
 }
@@ -107,7 +107,7 @@ void frmGame::ShowHelp() {
     picPreview.Picture({});
 }
 
-// The high scores light no caption; the one lit before is remembered, and comes back with another button.
+// The high scores light no caption. The one lit before stays dark until another has been lit.
 void frmGame::Highlight(std::int16_t menu) {
     if (menu != kScores && menu == CurrentMenu) return;
     lblCaption[CurrentMenu].ForeColor(kWhite);

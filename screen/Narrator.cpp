@@ -80,12 +80,12 @@ void Narrator::TellChanges(Told& told) {
     }
 }
 
-// While the board has the keyboard, its active card is where the player is.
+// While the board has the keyboard, its active card has the focus.
 void Narrator::TellActiveCard() {
     const std::int16_t active = form_.ActiveCell();
     if (active < 0 || !form_.fraScreen[0].Visible() || !form_.hasFocus()) return turn_.clear();
     PictureBox& cell = form_.picMat[active];
-    // The next card may be just like the one before, in the same place.
+    // Include the counters: the next card may equal the one before, in the same place.
     const QString turn = cell.access.name() + form_.picPreview.access.name() + form_.lblCardsLeft.Caption() +
                          '/' + form_.lblScore.Caption();
     if (turn != turn_) {

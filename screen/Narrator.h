@@ -11,7 +11,7 @@ class frmGame;
 // event loop is about to block. Does nothing without a listener.
 class Narrator {
 public:
-    // `form` is a window with all its controls described, and outlives this.
+    // `form`: all its controls are described; it must outlive this.
     explicit Narrator(frmGame& form);
 
     // Queues a sentence for the next look.
@@ -28,7 +28,7 @@ public:
     void Look();
 
 private:
-    // A control, with what was last told of it.
+    // A control and its state as last announced.
     struct Told {
         QWidget* control;
         const Access& access;
@@ -46,6 +46,6 @@ private:
     QStringList news_;  // not announced yet
     bool timedLock_ = false;
     QString turn_;
-    Control<QWidget> spot_;  // nobody sees it; its name is what was said last
+    Control<QWidget> spot_;  // invisible; its name is the last announcement
     QString said_;
 };

@@ -10,21 +10,21 @@
 
 namespace {
 
-// Hidden, so that what an unlucky end leaves behind never takes a slot.
+// Hidden, so that a file left by a crash never takes a slot.
 const QString kIncoming = QStringLiteral(".incoming-");
 
 bool IsTaken(const QStringList& names, const QString& name, const QString& replaced) {
     return name.compare(replaced, Qt::CaseInsensitive) != 0 && names.contains(name, Qt::CaseInsensitive);
 }
 
-// The name of `source` as one that is found again: not hidden, and without the program folder's separator.
+// The name of `source`, made findable: not hidden, and without the program folder's separator.
 QString VisibleName(const QString& source) {
     QString name = QFileInfo(source).fileName().replace('\\', '_');
     if (name.startsWith('.')) name[0] = '_';
     return name;
 }
 
-// `wanted`, or the first of "wanted-2", "wanted-3", ... that no other file has.
+// `wanted`, or the first of "wanted-2", "wanted-3", ... that is free.
 QString FreeName(const QDir& folder, const QString& wanted, const QString& replaced) {
     const QStringList names = folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
     const QFileInfo file(wanted);
@@ -40,7 +40,7 @@ bool WriteFlushed(QTemporaryFile& file, const QByteArray& bytes) {
     return file.open() && file.write(bytes) == bytes.size() && file.flush() && fsync(file.handle()) == 0;
 }
 
-// Whether `bytes` stand in `folder` under `name` now, all of them; otherwise nothing has changed there.
+// Writes `bytes` to the file `name` in `folder`. False on failure, with nothing changed there.
 bool Put(const QDir& folder, const QString& name, const QByteArray& bytes) {
     QTemporaryFile incoming(folder.filePath(kIncoming + QStringLiteral("XXXXXX")));
     if (!WriteFlushed(incoming, bytes)) return false;

@@ -13,7 +13,7 @@ TimeBar::TimeBar(QWidget* parent, const Placement& placement, const PropertyBag&
     FitSurface((QSizeF(this->size()) * devicePixelRatioF()).toSize());
 }
 
-// Asks the window to repaint no more than the rows in which the bar differs from what the screen shows.
+// Updates only the rows in which the bar differs from what is on screen.
 void TimeBar::PropertyChanged(std::string_view /*key*/) {
     const QImage& now = surface_.Pixels();
     if (shown_.size() != now.size()) return update();

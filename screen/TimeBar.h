@@ -6,7 +6,7 @@
 #include "progbar/ProgBar.h"
 #include "screen/BarSurface.h"
 
-// A ProgBar as a control of the window: its container, and the widget its surface is shown on.
+// A ProgBar as a control of the window: its container, and the widget that shows its surface.
 class TimeBar final : public Control<QWidget>, private ProgBarContainer {
 public:
     // `stored`: the bar's saved properties.
@@ -21,12 +21,12 @@ protected:
 
 private:
     void PropertyChanged(std::string_view key) override;
-    // Paints the bar afresh on a surface of that many device pixels.
+    // Repaints the bar on a surface of that many device pixels.
     void FitSurface(QSize pixels);
 
     BarSurface surface_;
     ProgBar bar_;
-    QImage shown_;  // what the screen has, to find what a change repaints
+    QImage shown_;  // what is on screen, to find the rows that changed
 };
 
 // The saved properties of the game's bar, prbTime: a light bar growing downwards on dark grey, no border.

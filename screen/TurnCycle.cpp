@@ -12,16 +12,16 @@ namespace {
 
 constexpr std::int16_t kKeyEscape = 27;
 constexpr std::int32_t kBarTicks = 50;    // ticks of the time bar in a lock time
-constexpr std::int32_t kRunningOut = 75;  // percent of it that are told
+constexpr std::int32_t kRunningOut = 75;  // percent of it; announced
 
-// The nearest whole number to the lock time divided by the bar's ticks, ties to the even one.
+// The lock time divided by the bar's ticks, rounded half to even.
 int BarInterval(int lockTime) {
     const int whole = lockTime / kBarTicks, rest = lockTime % kBarTicks * 2;
     const bool up = rest > kBarTicks || (rest == kBarTicks && whole % 2 == 1);
     return up ? whole + 1 : whole;
 }
 
-// What a bar tick adds. Above junior the bar is full well before the time is up.
+// The bar's increment per tick. Above junior the bar is full well before the time is up.
 std::int32_t BarStep(std::int16_t level) {
     if (level == 1) return 2;
     return level >= 2 && level <= 4 ? 3 : 0;
@@ -58,7 +58,7 @@ void frmGame::picMat_MouseUp(std::int16_t, std::int16_t Button, std::int16_t, fl
 
 void frmGame::LockInCell(std::int16_t cell) {
     if (Game().PosCurrentCard() != cell) {
-        HoverCell = -1;  // the mouse may rest in this very cell
+        HoverCell = -1;  // the mouse may already be in this cell
         picMat_MouseMove(cell, 0, 0, 0, 0);
     }
     if (Game().PosCurrentCard() == cell) picMat_MouseUp(cell, kLeftButton, 0, 0, 0);
@@ -72,7 +72,7 @@ void frmGame::picMat_MouseDown(std::int16_t, std::int16_t Button, std::int16_t, 
         Resume();
 }
 
-// The first card of a game has no limit: its timers are off, and a resume leaves them so.
+// The first card of a game has no limit: its timers are off and stay off after a resume.
 void frmGame::Pause() {
     SetPlay(Play::Paused);
     timersPaused_ = Timer1.Enabled();
@@ -162,7 +162,7 @@ bool mdlFormFunc::PlayWave(std::int16_t resource) {
     return mdlSound::PlayWave(mdlSound::Wave(resource));
 }
 
-// The window is never kept waiting for a sound, so nothing but the kind of source is read from the flags.
+// Sounds never block the window, so only the kind of source is read from the flags.
 bool mdlFormFunc::PlaySoundFile(std::string_view source, std::uint32_t flags) {
     if ((flags & SND_FILENAME) == 0) return false;
     World& world = form_.TheWorld();

@@ -6,8 +6,8 @@
 
 class frmGame;
 
-// What the screen shows, in words, told from the state of the game and the window. What is covered is said to
-// be covered: nobody is told what others cannot see.
+// Accessible names, computed from the state of the game and the window. They describe only what is on screen:
+// covered cells are "covered".
 
 // "shape 2, colour 3, quantity 4", or "eraser". kind: 0..38.
 [[nodiscard]] QString CardInWords(int kind);
@@ -19,5 +19,5 @@ class frmGame;
 // The skin of a slot, 0..11.
 [[nodiscard]] QString SkinInWords(const frmGame& form, std::int16_t slot);
 
-// Words that never change, as a description of a control wants them.
+// A constant accessible name.
 [[nodiscard]] std::function<QString()> Fixed(const char* text);

@@ -8,7 +8,7 @@
 #include "platform/files/ProgramFolder.h"
 #include "platform/sound/SoundFiles.h"
 
-// What the game window needs of the world outside it. All of it must outlive the window.
+// What the game window needs from outside. All of it must outlive the window.
 struct World {
     Time& time;
     RandomSource& random;

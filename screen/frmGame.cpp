@@ -65,7 +65,7 @@ void frmGame::Form_Load() {
     Game().SetLevel(0);
 }
 
-// Brings the four screens over one another and what belongs to the board around it.
+// Stacks the four screens and aligns the board's surroundings with them.
 void frmGame::LayScreens() {
     const Frame& board = fraScreen[0];
     const PictureBox& first = picMat[0];
@@ -126,7 +126,7 @@ void frmGame::closeEvent(QCloseEvent* event) {
     event->setAccepted(cancel == 0);
 }
 
-// The window has its first picture on the screen when this returns: now the skins may take their time.
+// The window is on screen once this returns, so decode the skins after that.
 void frmGame::paintEvent(QPaintEvent* /*event*/) {
     if (!skinsFinished_) QTimer::singleShot(0, this, [this] { FinishSkinSlots(); });
 }

@@ -26,14 +26,14 @@ class frmInfo;
 
 inline constexpr std::int16_t kKeyPause = 80;  // the virtual-key code of the letter P
 
-// The program's one game window: the board, the menu bar and four screens that replace one another in the
-// same place. Its handlers are public and callable directly, with made-up arguments too: an index outside a
-// control array does nothing, unless the handler says otherwise.
+// The program's only game window: the board, the menu bar and four screens that share one place. Its handlers
+// are public and can be called directly, with any arguments: an index outside a control array does nothing
+// unless noted.
 //
-// Its controls are in screen/controls, a part of the window each: where they stand, how they look, what they
-// say to a screen reader and what they call here. The handlers are in one file a subject: Menu, TurnCycle,
-// Skins, HighScores, Demo, Help, Keyboard; what the model asks for is in mdlFormFunc (Drawing, TurnCycle).
-// What is created later lies above: the order of the bases is that of the layers.
+// The controls are in screen/controls, one file for each part of the window: geometry, look, accessible names
+// and connections to the handlers. The handlers are in one file per subject: Menu, TurnCycle, Skins,
+// HighScores, Demo, Help, Keyboard; mdlFormFunc (Drawing, TurnCycle, HighScores) serves the model. Controls
+// created later are on top, so the order of the bases is the stacking order.
 class frmGame final : public QWidget,
                       public HasAccess,
                       public WindowControls,
@@ -48,10 +48,10 @@ public:
     explicit frmGame(World world);
     ~frmGame() override;
 
-    // The set-up, once: window shape, model, skins, the four screens over one another, the help screen shown.
+    // Sets up the window, once: its shape, the model, the skins and the screens. Shows the help screen.
     void Form_Load();
     void Form_Resize() {}
-    // Stops what runs and releases the model. Never cancels.
+    // Stops everything that runs and releases the model. Never cancels.
     void Form_Unload(std::int16_t& Cancel);
 
     // --- the turn cycle (TurnCycle.cpp) ---
@@ -61,8 +61,8 @@ public:
     void picMat_MouseMove(std::int16_t Index, std::int16_t Button, std::int16_t Shift, float X, float Y);
     // Locks the active card where it is; Index may be any number.
     void picMat_MouseUp(std::int16_t Index, std::int16_t Button, std::int16_t Shift, float X, float Y);
-    // Moves the active card into `cell` (0..15) and locks it there, as a click in that cell does, wherever
-    // the mouse is. For assistive technology.
+    // Moves the active card into `cell` (0..15) and locks it there, like a click in that cell. For assistive
+    // technology.
     void LockInCell(std::int16_t cell);
     void Timer1_Timer();
     void Timer2_Timer();
@@ -77,31 +77,31 @@ public:
     void imgMinimaize_Click();
 
     // --- skins (Skins.cpp) ---
-    // Takes the skins of the folder "\Art\" into the slots, by their heads alone.
+    // Lists the skins of the folder "\Art\" in the slots; reads only their headers.
     void FillSkinSlots();
-    // Reads the skins to their end, draws their thumbnails and closes up the slots of damaged ones. Runs
-    // once, after the window's first paint or when the skins are first needed.
+    // Decodes the skins, draws their thumbnails and removes the slots of damaged ones. Runs once, after the
+    // window's first paint or when the skins are first needed.
     void FinishSkinSlots();
     void picSkin_MouseMove(std::int16_t Index, std::int16_t Button, std::int16_t Shift, float X, float Y);
     void picSkin_MouseUp(std::int16_t Index, std::int16_t Button, std::int16_t Shift, float X, float Y);
 
-    // A file was dropped on slot Index, which becomes the slot it ends up in: on an empty slot, the first
-    // empty one. Data: its path. It is moved into the skin folder and chosen.
+    // Moves the dropped file with the path Data into the skin folder and chooses it. Index: the slot it was
+    // dropped on, set to the one it gets: in place of an empty slot, the first empty one.
     void picSkin_OLEDragDrop(std::int16_t& Index, const QString& Data, std::int32_t& Effect,
                              std::int16_t Button, std::int16_t Shift, float X, float Y);
 
     // --- the demonstration and the recording (Demo.cpp) ---
-    // Plays the built-in game; returns when it has ended or was asked to. A call while one runs does nothing.
+    // Plays the built-in game until it ends or StopDemo is set. A call while it runs does nothing.
     void cmdDemo_Click();
-    // Adds the recording of this run to the file "\\array.txt".
+    // Appends the recording of this run to the file "\\array.txt".
     void cmdPrint_Click();
 
     // --- high scores (HighScores.cpp) ---
-    // Handles what is pending at the end of a game, but drops the player's input.
+    // Handles pending events at the end of a game, but drops the player's input.
     void DropInput();
-    // Opens the name entry over the board; until its OK button the menu is closed.
+    // Opens the name entry over the board and disables the menu until OK.
     void AskForName();
-    // Enters the score with the name typed, closes the name entry and shows the table.
+    // Enters the score under the typed name, closes the name entry and shows the table.
     void cmdOk_Click();
 
     // --- help, links and the information window (Help.cpp) ---
@@ -112,7 +112,7 @@ public:
     void imgWebLink_Click();
 
     // --- the window itself ---
-    // A press on the background: the window moves with the mouse.
+    // A press on the background, which moves the window.
     void Form_MouseDown(std::int16_t Button, std::int16_t Shift, float X, float Y);
     void Form_MouseMove(std::int16_t, std::int16_t, float, float) {}
 
@@ -122,16 +122,16 @@ public:
     [[nodiscard]] World& TheWorld() { return world_; }
     [[nodiscard]] Narrator& TheNarrator() { return *narrator_; }
 
-    // What a game is doing, as far as the screen goes.
+    // The state of the game on screen.
     enum class Play { Off, On, Paused };
     Play play = Play::Off;
     bool boardCovered = false;        // by the cover picture, in a pause and after a game
-    std::int16_t nextCardShown = -1;  // its kind
-    // Takes input for the board only while a game is on.
+    std::int16_t nextCardShown = -1;  // the kind in the preview
+    // Also locks the board's input unless the game is on.
     void SetPlay(Play now);
 
-    // What the board shows: whether a locked card lies in `cell`, whether the active card is there, and in
-    // which cell that is, -1 for none.
+    // The board on screen: whether `cell` holds a locked card, whether it holds the active one, and the
+    // active card's cell, -1 for none.
     [[nodiscard]] bool IsOccupied(std::int16_t cell) const;
     [[nodiscard]] bool IsActive(std::int16_t cell) const { return cell >= 0 && cell == ActiveCell(); }
     [[nodiscard]] std::int16_t ActiveCell() const;
@@ -140,7 +140,7 @@ public:
     std::int16_t CurrentMenu = 2;  // index of the highlighted caption
     std::int16_t CurrentLevel = 0, HoverLevel = 0;
     std::int16_t SkinCount = 0, CurrentSkin = 0, HoverSkin = 0;
-    std::int16_t HoverCell = 0;              // the cell into which the mouse last moved the active card
+    std::int16_t HoverCell = 0;              // the cell the mouse last moved the active card to
     QStringList skinFile = QStringList(12);  // the file name of each slot
 
 private:
@@ -171,9 +171,9 @@ private:
     void OrderSkinSlots();
     [[nodiscard]] bool BoardTakesKeys() const;
 
-    // --- what the menu starts (Menu.cpp; ShowScores in HighScores.cpp, ShowInfo in Help.cpp) ---
+    // --- menu actions (Menu.cpp; ShowScores in HighScores.cpp, ShowInfo in Help.cpp) ---
     void ShowScreen(std::int16_t index);
-    // The action of a menu button; the failure as a sentence for the player, empty when it went well.
+    // Runs a menu button's action. Returns the failure as a sentence for the player, empty on success.
     QString RunAction(std::int16_t menu);
     QString StartGame();
     void ShowMenu();
@@ -205,8 +205,8 @@ private:
     std::unique_ptr<Narrator> narrator_;
     bool timersPaused_ = false;  // the pause stopped running timers, so a resume starts them again
     bool skinsFinished_ = false;
-    int clicks_ = 0;  // of menu buttons, to find out whether another came while a skin was read
+    int clicks_ = 0;  // of menu buttons, to detect another one while a skin is read
     bool demoRuns_ = false;
-    bool covering_ = false;  // the end of a game covers the board, from within the model
-    bool unloaded_ = false;  // the model has gone, or goes when the demonstration that runs has unwound
+    bool covering_ = false;  // the end of a game, called by the model, is dropping input
+    bool unloaded_ = false;  // the model is gone, or goes when the demonstration returns
 };

@@ -13,7 +13,7 @@ namespace {
 constexpr TwipsRect kWindow{0, 0, 4710, 5820};
 constexpr TwipsRect kText{150, 150, 4410, 4980};
 constexpr qreal kPadding = 9;  // between the text and the edge of its sheet
-// The most of the file that is shown: far more than a manual, and little enough to lay out at once.
+// The most that is shown of the file: far more than the rules, and quick to lay out.
 constexpr qint64 kMostBytes = qint64{512} * 1024;
 
 QString RulesText(const QString& path) {
@@ -53,7 +53,7 @@ frmInfo::frmInfo(QWidget* owner, const ProgramFolder& folder)
     Text1.setObjectName(QStringLiteral("Text1"));
     Text1.setGeometry(kText.InPixels());
     Text1.setReadOnly(true);
-    // A reader moves through the text with the keys, and sees where.
+    // The keyboard moves a visible cursor through the text.
     Text1.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     DressControls();
     imgButton.onMouseMove = [this](const MouseInput& in) {

@@ -8,8 +8,8 @@
 #include "platform/controls/Shape.h"
 #include "platform/files/ProgramFolder.h"
 
-// The information window: the rules text, read from "\Res\Tesselor rules.txt" each time the window is made.
-// Without the file it is empty. Its button and Escape close it.
+// The information window: the rules text, read from "\Res\Tesselor rules.txt" each time the window is
+// created. Without the file it is empty. Its button and Escape close it.
 class frmInfo final : public QWidget, public HasAccess {
 public:
     // `owner`: the game window, above which this one stays.

@@ -5,8 +5,7 @@
 class clsCard;
 class frmGame;
 
-// The screen procedures: what the model asks of the game window, and what several of the window's handlers
-// share.
+// The screen procedures: the game window's side of the model's port, and helpers of several handlers.
 class mdlFormFunc final : public GameScreen {
 public:
     explicit mdlFormFunc(frmGame& form) : form_(form) {}
@@ -23,10 +22,10 @@ public:
     void KeepAside(std::int16_t cell) override;
     void KeepNothingAside() override;
     void ShowNextCard(std::int16_t kind) override;
-    // The active card over the locked card of `cell`, and its red frame there.
+    // Draw the active card over the locked card of `cell`, and its red frame.
     void DrawCardOverCard(std::int16_t cell);
     void DrawActiveFrame(std::int16_t cell);
-    // Hides the board behind the cover picture, cell by cell; holds the window for 800 milliseconds.
+    // Hides the board behind the cover picture, cell by cell; blocks for 800 milliseconds.
     void CoverBoard();
 
     // TurnCycle.cpp
@@ -38,8 +37,7 @@ public:
 
     // HighScores.cpp
     void GameOver() override;
-    // Creates the table of the four best when there is none. Called once, first of all in the window's
-    // set-up.
+    // Creates the high-score table if missing. Called once, first in the window's set-up.
     void InitHighScoreTable();
 
 private:

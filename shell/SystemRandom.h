@@ -4,7 +4,7 @@
 
 #include "model/RandomSource.h"
 
-// The program's random numbers: the system's own, which no seed can repeat.
+// Random numbers from the system, which no seed can repeat.
 class SystemRandom final : public RandomSource {
 public:
     void Reseed() override {}

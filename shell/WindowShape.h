@@ -5,20 +5,20 @@
 
 class QWidget;
 
-// The shape of the game window and its being moved by the background.
+// The shape and the place of the game window.
 namespace WindowShape {
 
-// The visible rectangle, in pixels of a window with a title bar: everything outside it is cut away. On screen
+// The visible rectangle, in pixels of a window with a title bar: everything outside it is cut off. On screen
 // its top left corner is the origin of the design positions.
 inline constexpr QRect kRegion{QPoint(2, 22), QPoint(400, 432)};
 
-// Cuts `window` down to the visible rectangle: without a title bar, 399 x 411, and no other size.
+// Makes `window` frameless, with the fixed size of the visible rectangle, 399 x 411.
 void Apply(QWidget& window);
 
-// `place` moved so that it lies on `screen`, as far as it fits; returns its corner.
+// The top left corner of `place` once moved onto `screen`, as far as it fits.
 [[nodiscard]] QPoint OnScreen(QRect place, const QRect& screen);
 
-// Brings `window` back whenever a screen changes its size.
+// Moves `window` back onto its screen whenever a screen changes size.
 void KeepOnScreens(QWidget& window);
 
 }  // namespace WindowShape
@@ -28,7 +28,7 @@ void KeepOnScreens(QWidget& window);
 // could leave the window stuck to the mouse.
 class WindowMove {
 public:
-    // A press at `global`, in screen coordinates. `leftButton`: the button the window system moves with.
+    // A press at `global`, in screen coordinates. `leftButton`: needed to hand over the drag.
     void Press(const QWidget& window, QPoint global, bool leftButton);
     // The mouse moved with a button held.
     void Move(QWidget& window, QPoint global);
@@ -37,5 +37,5 @@ public:
 private:
     enum class State { Idle, Pressed, PressedLeft, Following };
     State state_ = State::Idle;
-    QPoint grip_;  // where the window is held, from its corner
+    QPoint grip_;  // the position of the press in the window
 };

@@ -5,7 +5,7 @@
 #include "platform/controls/Button.h"
 #include "platform/controls/Label.h"
 
-// The notice that the display does not use small fonts. Its button, Escape and its close box all close it.
+// The notice that the display does not use small fonts. Its button, Escape and the close button all close it.
 class frmIcon final : public QDialog {
 public:
     frmIcon();

@@ -27,8 +27,8 @@ int main(int argc, char* argv[]) {
     // Otherwise Qt would store the player's files in the root folder.
     if (const passwd* user = getpwuid(getuid()); user && !qEnvironmentVariableIsSet("HOME"))
         qputenv("HOME", user->pw_dir);
-    mallopt(M_MMAP_THRESHOLD, 1 << 20);  // a decoded picture goes back to the system, not to the heap
-    mallopt(M_ARENA_MAX, 1);             // the window reuses what the decoding thread frees
+    mallopt(M_MMAP_THRESHOLD, 1 << 20);  // return freed pictures to the system
+    mallopt(M_ARENA_MAX, 1);             // let the window reuse what the decoding thread frees
     theUsualHandler = qInstallMessageHandler(EndWithoutDisplay);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);

@@ -9,10 +9,10 @@ namespace mdlFontSize {
 inline constexpr std::int16_t kSmallFontHeight = 16;
 
 // The height of the display's system font in pixels, 16 at 96 dots per inch after the desktop's own scaling;
-// nothing when there is no display to ask.
+// nothing without a display.
 [[nodiscard]] std::optional<std::int16_t> SystemFontHeight();
 
-// True when the display uses small fonts; a display that cannot be asked does. Called once, by Main.
+// Whether the display uses small fonts; true if unknown. Called once, by Main.
 [[nodiscard]] bool CheckSmallFonts(std::optional<std::int16_t> height = SystemFontHeight());
 
 }  // namespace mdlFontSize

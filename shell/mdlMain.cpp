@@ -64,6 +64,6 @@ int mdlMain::Main() {
                   OpenAddress});
     form.show();
     const int status = QApplication::exec();
-    if (time.IsBusy()) std::_Exit(status);  // a picture that is still being read would outlive what it uses
+    if (time.IsBusy()) std::_Exit(status);  // a decoding thread would outlive what it uses
     return status;
 }

@@ -7,7 +7,7 @@ namespace {
 
 StringStore* theHive = nullptr;
 
-// Only the current user's root is kept; any other is refused without a word.
+// Only the current user's root is supported; any other is silently ignored.
 bool IsKept(std::uint32_t root) {
     return theHive && root == kCurrentUser;
 }

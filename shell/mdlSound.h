@@ -5,13 +5,13 @@
 
 class SoundOutput;
 
-// The built-in sounds: twelve WAVE files of the program's own resources, kept in memory for the whole run.
+// The built-in sounds: twelve WAVE files in the program's resources, in memory for the whole run.
 namespace mdlSound {
 
 inline constexpr std::int16_t kFirstSound = 101;
 inline constexpr std::int16_t kLastSound = 112;
 
-// Where sounds are heard; null, as at first, for silence. It must outlive its use here.
+// Sets the sound output; null, the default, for silence. It must outlive its use here.
 void Output(SoundOutput* output);
 
 // Fills the twelve buffers. Called once in the game window's set-up, before any sound is played.
@@ -21,7 +21,7 @@ void LoadWaves();
 // after LoadWaves and lives as long as the program.
 [[nodiscard]] const QByteArray& Wave(std::int16_t resource);
 
-// Starts `sound`, one of the buffers, cutting off the sound before, and returns at once. False when nothing
+// Starts `sound`, one of the buffers, cutting off the previous sound, and returns at once. False if nothing
 // will be heard.
 bool PlayWave(const QByteArray& sound);
 

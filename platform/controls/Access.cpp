@@ -26,7 +26,7 @@ public:
         return state;
     }
 
-    // Decoration, and what lies out of sight, is no child.
+    // Decoration and hidden controls are not children.
     int childCount() const override { return static_cast<int>(Children().size()); }
     QAccessibleInterface* child(int index) const override {
         return QAccessible::queryAccessibleInterface(Children().value(index));

@@ -6,12 +6,12 @@
 
 #include "platform/controls/Control.h"
 
-// The command-button and text-box controls: the toolkit's own, placed in twips.
+// The command-button and text-box controls: Qt's own, placed in twips.
 class CommandButton : public Control<QPushButton> {
 public:
     CommandButton(QWidget* parent, const Placement& placement) : Control<QPushButton>(parent, placement) {
         setText(placement.caption);
-        setAutoDefault(true);          // pressed by Enter as by the space bar
+        setAutoDefault(true);          // Enter presses it, like the space bar
         setFocusPolicy(Qt::TabFocus);  // a mouse click does not move the focus
         access.role = QAccessible::PushButton;
     }
@@ -33,7 +33,7 @@ public:
     }
 
     [[nodiscard]] QString Text() const { return text(); }
-    // Keeps no more than the first `letters` of what is typed, pasted or set, as a reader counts them.
+    // Limits the text, however it is entered, to its first `letters` user-perceived characters.
     void MostLetters(int letters);
 
 protected:

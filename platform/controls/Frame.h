@@ -5,7 +5,7 @@
 #include "platform/controls/MouseControl.h"
 #include "platform/pictures/Picture.h"
 
-// The frame control: a coloured or pictured sheet that holds other controls.
+// The frame control: a panel with a colour or a picture that holds other controls.
 class Frame : public MouseControl {
 public:
     Frame(QWidget* parent, const Placement& placement) : MouseControl(parent, placement) {}

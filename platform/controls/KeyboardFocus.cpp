@@ -43,8 +43,8 @@ bool TakesKeyboard(const QWidget& control) {
            IsPressable(control);
 }
 
-// The nearest control in `direction`, where a step aside counts as four ahead and none is far aside; null
-// when there is none.
+// The nearest control in `direction`, within about 34 degrees of it; sideways distance counts fourfold. Null
+// if there is none.
 QWidget* Nearest(const QWidget& window, QPoint from, QPoint direction) {
     QWidget* nearest = nullptr;
     int least = std::numeric_limits<int>::max();

@@ -10,8 +10,8 @@ class QKeyEvent;
 // the focus to the nearest pressable one in its direction. False when the key is not handled.
 bool AnswerKey(QWidget& window, const QKeyEvent& event);
 
-// The ring around the focused control, shown once the keyboard is in use: gold within dark, visible on both
-// stone and ivory. It stays on top of its window and follows the focus by itself.
+// The ring around the focused control, shown once the keyboard is in use: gold with a dark outline, visible
+// on both stone and ivory. It stays on top of its window and follows the focus by itself.
 class FocusRing final : public QWidget, public HasAccess {
 public:
     explicit FocusRing(QWidget* window);

@@ -19,7 +19,7 @@ void Label::ForeColor(Colour colour) {
     update();
 }
 
-// Pressed, the text stands a pixel lower.
+// While pressed, the text is a pixel lower.
 void Label::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setFont(ShownFont());

@@ -18,7 +18,7 @@ public:
     void WordWrap(bool wrap) { wrap_ = wrap; }
     // A web link: underlined while the mouse is over it.
     void IsLink(bool link) { isLink_ = link; }
-    // The text as it is painted.
+    // The text as painted.
     [[nodiscard]] virtual QString Shown() const { return caption_; }
 
 protected:

@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qsizetype kMostUnits = 200;  // to lay out; damaged text may be of any length
+constexpr qsizetype kMostUnits = 200;  // laid out at most; damaged text can have any length
 
 constexpr int kSmallestPixels = 9;
 
@@ -29,7 +29,7 @@ QString LineLabel::Elided(const QFont& font) const {
     return QFontMetrics(font).elidedText(Line(), Qt::ElideRight, width());
 }
 
-// Smaller letters rather than fewer, as far as they can be read.
+// Shrink the font before eliding, as far as it stays legible.
 QFont LineLabel::ShownFont() const {
     QFont fitted = font();
     while (fitted.pixelSize() > kSmallestPixels && Elided(fitted) != Line())
@@ -44,7 +44,7 @@ QString LineLabel::Shown() const {
 bool LineLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return Label::event(event);
     const QString line = Line();
-    // As rich text made of plain text: tooltips guess, and a name may look like markup.
+    // Escape as rich text: tooltips guess the format, and a name may look like markup.
     const QString tip = Shown() == line ? QString() : Qt::convertFromPlainText(line);
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
     return true;

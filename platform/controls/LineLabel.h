@@ -2,8 +2,8 @@
 
 #include "platform/controls/Label.h"
 
-// A label for text from outside the program: shown on one line whatever it holds, with an ellipsis where it
-// does not fit. The caption, and what a screen reader says, stay the whole text; a tooltip shows more of it.
+// A label for text from outside the program: always one line, elided if it does not fit. The caption and the
+// accessible name stay the whole text; a tooltip shows more of it.
 class LineLabel final : public Label {
 public:
     using Label::Label;

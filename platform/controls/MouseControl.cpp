@@ -37,7 +37,7 @@ void MouseControl::mousePressEvent(QMouseEvent* event) {
     Call(onMouseDown, *event);
 }
 
-// The second press of a double click is a press like any other.
+// Treat the second press of a double click like any other.
 void MouseControl::mouseDoubleClickEvent(QMouseEvent* event) {
     mousePressEvent(event);
 }
@@ -47,7 +47,7 @@ void MouseControl::mouseMoveEvent(QMouseEvent* event) {
     Call(onMouseMove, *event);
 }
 
-// Up before the handlers run: a click may show another screen, or last as long as a dialog.
+// Release before the handlers run: a click may switch screens or open a dialog.
 void MouseControl::mouseReleaseEvent(QMouseEvent* event) {
     Press(pressed_ && event->button() != Qt::LeftButton, over_);
     const bool inside = isVisible() && rect().contains(event->pos());

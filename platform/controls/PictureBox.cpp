@@ -18,7 +18,7 @@ void Fill(QPainter& painter, const QRect& rect, const QColor& colour) {
     if (rect.isValid()) painter.fillRect(rect, colour);
 }
 
-// An outline as four bars that do not overlap: in mask mode a pixel is combined once.
+// Draws four bars without overlap, so that mask mode combines each pixel once.
 void Outline(QPainter& painter, const QRect& outer, int width, const QColor& colour) {
     const QRect inner = outer.adjusted(width, width, -width, -width);
     Fill(painter, {outer.topLeft(), QPoint(outer.right(), inner.top() - 1)}, colour);
@@ -27,7 +27,7 @@ void Outline(QPainter& painter, const QRect& outer, int width, const QColor& col
     Fill(painter, {QPoint(inner.right() + 1, inner.top()), QPoint(outer.right(), inner.bottom())}, colour);
 }
 
-// The edges run through the middle of their pixels, so a line of odd width lies evenly about them.
+// The edges run through pixel centres, so a line of odd width is centred on them.
 QRectF OuterEdge(const DrawnBox& box) {
     const int before = box.lineWidth / 2, after = box.lineWidth - before;
     return {
@@ -47,7 +47,7 @@ void Draw(QPainter& painter, const PaintedPicture& painted, qreal scale) {
     DrawPixels(painter, QPointF(painted.at * scale).toPoint(), painted.picture.At(scale));
 }
 
-// The first of the files dragged, when it is one of this machine.
+// The first of the dragged files, if it is local.
 QString FirstFile(const QMimeData* data) {
     const QList<QUrl> urls = data->urls();
     return !urls.isEmpty() && urls.first().isLocalFile() ? urls.first().toLocalFile() : QString();
@@ -135,8 +135,8 @@ void PictureBox::dropEvent(QDropEvent* event) {
     return {std::make_shared<ContentsSource>(contents_), 0};
 }
 
-// A box that covers an earlier one of the same shape replaces it, so that a frame drawn back and forth for
-// hours does not pile up.
+// A box that covers an earlier one of the same shape replaces it, so that frames redrawn for hours do not
+// accumulate.
 void PictureBox::Add(const DrawnBox& box) {
     std::erase_if(contents_.drawings, [&box](const auto& drawing) {
         const auto* earlier = std::get_if<DrawnBox>(&drawing);

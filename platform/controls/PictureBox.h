@@ -13,7 +13,7 @@ enum class DrawMode {
 };
 
 // A box drawn on a picture, in pixels of the drawing area. An outline is centred on the rectangle's edges and
-// `lineWidth` wide; a filled box (lineWidth 0) takes the inside of the edges.
+// `lineWidth` wide; a filled box (lineWidth 0) fills the inside of the edges.
 struct DrawnBox {
     QRect edges;
     int lineWidth = 0;
@@ -23,13 +23,13 @@ struct DrawnBox {
     friend bool operator==(const DrawnBox&, const DrawnBox&) = default;
 };
 
-// Another picture painted with its corner at `at`.
+// Another picture, with its top left corner at `at`.
 struct PaintedPicture {
     Picture picture;
     QPoint at;
 };
 
-// What a picture box shows: its background, its picture and what was drawn over it, at any scale.
+// The contents of a picture box: its background, picture and drawings, at any scale.
 struct PictureContents {
     QSize size;  // of the drawing area, in logical pixels
     Colour background = kWhite;
@@ -39,13 +39,13 @@ struct PictureContents {
     [[nodiscard]] QImage Render(qreal scale) const;
 };
 
-// The picture-box control. What is drawn on it stays until its picture is replaced or it is cleared.
+// The picture-box control. Drawings stay until its picture is replaced or it is cleared.
 class PictureBox : public MouseControl {
 public:
     // `border`: width of the sunken edge around the drawing area, in logical pixels.
     PictureBox(QWidget* parent, const Placement& placement, int border = 0);
 
-    // Setting a picture replaces all that is shown, drawings included.
+    // Setting a picture also removes all drawings.
     [[nodiscard]] const ::Picture& Picture() const { return contents_.picture; }
     void Picture(const ::Picture& picture);
     void BackColor(Colour colour);
@@ -57,15 +57,15 @@ public:
     void PaintPicture(const ::Picture& picture, QPoint at);
     void Clear();  // removes the drawings; the picture stays
 
-    // Takes files dropped on it: `handler` gets the path of the first one. Anything but a file of this
-    // machine is refused while it still hovers.
+    // Takes files dropped on it: `handler` gets the path of the first one. Anything but a local file is
+    // refused during the drag.
     void OnFileDrop(std::function<void(const QString& path)> handler);
 
-    // All that is shown now, drawings included, as a picture of its own.
+    // The current contents, drawings included, as a picture.
     [[nodiscard]] ::Picture Image() const;
     [[nodiscard]] const PictureContents& Contents() const { return contents_; }
 
-    // Brings what is shown to the screen before returning.
+    // Repaints before returning.
     void Refresh() { repaint(); }
 
 protected:

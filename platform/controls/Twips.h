@@ -7,13 +7,13 @@
 using Twips = int;
 inline constexpr Twips kTwipsPerPixel = 15;
 
-// The nearest whole pixel; halves go away from zero.
+// Rounds to the nearest pixel, halves away from zero.
 constexpr int ToPixels(Twips twips) {
     const int half = twips < 0 ? -kTwipsPerPixel / 2 : kTwipsPerPixel / 2;
     return (twips + half) / kTwipsPerPixel;
 }
 
-// Where a control stands inside its parent.
+// A control's geometry within its parent.
 struct TwipsRect {
     Twips left = 0, top = 0, width = 0, height = 0;
 
@@ -22,8 +22,7 @@ struct TwipsRect {
     }
 };
 
-// A control as it was designed: its name, with the index for a member of a control array, where it stands and
-// the text it starts with.
+// A control's design: its name, with the index in a control array, its geometry and its initial text.
 struct Placement {
     QString name;
     TwipsRect place;

@@ -11,7 +11,7 @@ namespace {
 int Show(QWidget* owner, const QString& icon, const QString& text, QMessageBox::StandardButtons buttons,
          QMessageBox::StandardButton byDefault) {
     QMessageBox box(QMessageBox::NoIcon, QCoreApplication::applicationName(), text, buttons, owner);
-    box.setTextFormat(Qt::PlainText);  // a file name is never taken for markup
+    box.setTextFormat(Qt::PlainText);  // a file name must not be parsed as markup
     box.setIconPixmap(QPixmap::fromImage(WindowArt(icon).At(box.devicePixelRatioF())));
     for (QAbstractButton* button : box.buttons()) button->setIcon({});
     box.setDefaultButton(byDefault);

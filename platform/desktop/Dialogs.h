@@ -8,9 +8,9 @@ class QWidget;
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
-    // Shows one sentence with an OK button and returns when it has been read.
+    // Shows one sentence with an OK button and returns when it is dismissed.
     virtual void Tell(QWidget* owner, const QString& sentence) = 0;
-    // Asks with the buttons Yes and No and an information icon; anything but Yes is no, and No the default.
+    // Asks with an information icon, Yes and No (the default); false for anything but Yes.
     [[nodiscard]] virtual bool Ask(QWidget* owner, const QString& question) = 0;
 };
 

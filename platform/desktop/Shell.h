@@ -2,5 +2,5 @@
 
 #include <QString>
 
-// Asks the desktop to show the web address `address`. Returns at once; a failure goes unnoticed.
+// Asks the desktop to show the web address `address`. Returns at once and ignores failures.
 void OpenAddress(const QString& address);

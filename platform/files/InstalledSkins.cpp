@@ -15,14 +15,14 @@ QByteArray Bytes(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// Flushed before it is committed: on a full disk a commit alone may put a part in place of the whole.
+// Flush before the commit, which on a full disk may otherwise install a truncated file.
 bool Save(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() &&
            file.commit();
 }
 
-// Written outside the skin folder first, where nothing that is left of it can take a slot.
+// Write outside the skin folder first, so that leftovers never take a slot.
 bool Bring(const QString& name, const QString& installed, const QString& own, const QString& home) {
     const QByteArray skin = Bytes(installed + '/' + name);
     const QString incoming = home + "/.incoming-" + name;

@@ -11,7 +11,7 @@ namespace {
 
 const QString kSkinFolder = QStringLiteral("\\Art\\");
 
-// The entry of `folder` whose name is `name` but for case; an exact match first, `name` itself if none.
+// The entry of `folder` that matches `name` in any case; an exact match wins, `name` itself if none.
 QString EntryName(const QString& folder, const QString& name) {
     if (QFileInfo::exists(folder + '/' + name)) return name;
     const QStringList entries =
@@ -21,15 +21,15 @@ QString EntryName(const QString& folder, const QString& name) {
     return name;
 }
 
-// The path of `name` in `root`, each step of it whatever its case.
+// The path of `name` in `root`, each component in any case.
 QString PathIn(const QString& root, const QString& name) {
     QString path = root;
     for (const QString& step : name.split('\\', Qt::SkipEmptyParts)) path += '/' + EntryName(path, step);
     return path;
 }
 
-// Where the data lie that came with the program: beside it when it was unpacked into a folder that is not to
-// be written, otherwise where the installation puts them.
+// The folder of the data shipped with the program: beside it if it was unpacked into a read-only folder,
+// otherwise where the installation puts them.
 QString InstalledCopy(const QString& beside) {
     return QFileInfo(beside + "/Art").isDir() ? beside : QDir::cleanPath(beside + '/' + TESSELOR_DATA);
 }
@@ -52,7 +52,7 @@ ProgramFolder ProgramFolder::OfUser(const QString& own, const QString& installed
 
 QString ProgramFolder::Path(const QString& name) const {
     QString path = PathIn(root_, name);
-    // A skin that is gone was taken away by the player.
+    // A missing skin was deleted by the player.
     if (installed_.isEmpty() || name.startsWith(kSkinFolder) || QFileInfo::exists(path)) return path;
     QString there = PathIn(installed_, name);
     return QFileInfo::exists(there) ? there : path;

@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-// The folder the game finds its skins, rules text and sound files in. Names inside it are given with "\" as
-// the separator and compared without regard to case.
+// The folder of the skins, the rules text and the sound files. Names in it use "\" as the separator and are
+// case-insensitive.
 class ProgramFolder {
 public:
     // root: the folder. installed: the shared read-only copy, searched for anything missing from the folder
@@ -12,20 +12,19 @@ public:
     explicit ProgramFolder(QString root, QString installed = {})
         : root_(std::move(root)), installed_(std::move(installed)) {}
 
-    // The folder in force: TESSELOR_HOME when set; the executable's own when it holds "Art" and can be
-    // written; otherwise the user's data folder over the installed copy.
+    // The folder to use: TESSELOR_HOME if set; the executable's own if it holds "Art" and can be written;
+    // otherwise the user's data folder over the installed copy.
     [[nodiscard]] static ProgramFolder Find();
 
-    // The folder `own` of a user, with the skins of `installed` brought into it. When it cannot hold them and
-    // has none of its own, the installed copy itself: the game is played with those skins, and cannot be
-    // given others.
+    // The user's folder `own`, with the skins of `installed` copied into it. If it cannot hold them and has
+    // none of its own, the installed copy itself: the game can use those skins, but not add others.
     [[nodiscard]] static ProgramFolder OfUser(const QString& own, const QString& installed);
 
-    // The path of `name` ("\Art\sea.png"): of the file or folder that is there, whatever its case, or the one
-    // to make.
+    // The path of `name` ("\Art\sea.png"): of the existing file or folder, in any case, or the one
+    // to create.
     [[nodiscard]] QString Path(const QString& name) const;
 
-    // The names of the files in the folder `name`, in order without regard to case; none when it is missing.
+    // The names of the files in the folder `name`, sorted case-insensitively; none if it is missing.
     [[nodiscard]] QStringList Files(const QString& name) const;
 
 private:

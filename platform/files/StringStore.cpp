@@ -8,17 +8,17 @@
 #include <QThread>
 #include <cassert>
 
-// The rollback journal, SQLite's default, rather than WAL: the store is read a few times and rarely written,
-// so it is one file at rest, and reading makes no others, which a closed folder would refuse.
+// SQLite's default rollback journal, not WAL: the rarely written store is then one file at rest, and reading
+// it creates no others, which a read-only folder would refuse.
 
 namespace {
 
-// EXTRA also flushes the folder: else a power cut right after a change could bring its journal back. Another
-// program's database gets our table too here, but not for long: it is found out before the change is kept.
+// EXTRA also flushes the folder: otherwise a power cut right after a change could bring its journal back.
+// This adds our table to a foreign database too, but kCheck finds that before anything is committed.
 constexpr const char* kBegin =
     "PRAGMA synchronous = EXTRA; BEGIN IMMEDIATE; CREATE TABLE IF NOT EXISTS strings("
     "path TEXT NOT NULL, name TEXT NOT NULL, value, PRIMARY KEY(path, name)) WITHOUT ROWID";
-// All that the database holds, and what is wrong with it.
+// Everything in the database, and its faults.
 constexpr const char* kCheck =
     "SELECT group_concat(name) || ' ' || (SELECT group_concat(integrity_check) FROM pragma_integrity_check) "
     "FROM sqlite_schema";
@@ -28,8 +28,8 @@ bool Execute(sqlite3* database, const char* sql) {
     return sqlite3_exec(database, sql, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
-// Runs one statement; its only row, if it has one and it is a text, goes to `text`. False for a failure.
-// A statement that could not be prepared is null, with which the rest fails.
+// Runs one statement and puts its only row, if that is text, into `text`. False on failure. A statement that
+// could not be prepared is null, which makes the calls after it fail.
 bool Run(sqlite3* database, const char* sql, const QStringList& arguments, std::optional<QString>& text) {
     sqlite3_stmt* statement = nullptr;
     sqlite3_prepare_v2(database, sql, -1, &statement, nullptr);
@@ -68,7 +68,7 @@ QString StringStore::UserFile() {
     return QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) + "/store.sqlite";
 }
 
-// Nothing is read yet. What happened last before it is closed tells whether others hang.
+// Reads nothing yet. The last error before closing shows whether another process hangs.
 StringStore::Connection StringStore::Open() const {
     sqlite3* database = nullptr;
     sqlite3_open_v2(QFile::encodeName(file_).constData(), &database, SQLITE_OPEN_READWRITE, nullptr);
@@ -106,9 +106,9 @@ void StringStore::Begin() {
     static_cast<void>(Lock());
 }
 
-// Begins the change, if it can. False when what is there cannot be read, rather than be had now: SQLite does
-// not tell a folder or a pipe from a want of rights. It would make the file for everybody, and its journals
-// take over the mode.
+// Begins the change if possible. False if the file is unreadable, not just busy: SQLite does not distinguish
+// a folder or a pipe from missing permissions. It would also create the file readable by all, and its
+// journals inherit the mode.
 bool StringStore::Lock() {
     const QFileInfo entry(file_);
     if (entry.exists() && !(entry.isFile() && entry.isReadable())) return false;
@@ -124,6 +124,6 @@ bool StringStore::Lock() {
 
 void StringStore::End() {
     if (change_) Execute(change_.get(), "COMMIT");
-    change_.reset();  // undoes what could not be committed
+    change_.reset();  // rolls back if the commit failed
     changing_ = false;
 }

@@ -6,23 +6,23 @@
 
 struct sqlite3;
 
-// A store of string values addressed by key path and value name, both compared without regard to case: one
-// SQLite database, which is open only while it is used. The file is its owner's alone.
+// A store of string values addressed by key path and value name, both case-insensitive: one SQLite database,
+// open only while in use. Only its owner can access the file.
 //
 // An unreadable file (damaged, foreign, a folder, no permission) counts as an empty store. The next change
 // renames it; it is never overwritten.
 class StringStore {
 public:
-    // A store in `file`, which is opened when it is first asked for something.
+    // `file` is opened at each use.
     explicit StringStore(QString file) : file_(std::move(file)) {}
     Q_DISABLE_COPY_MOVE(StringStore)
 
     // The file of the current user, in the configuration folder.
     [[nodiscard]] static QString UserFile();
 
-    // The string under `name` in the key `path`; nothing when there is none or it is of another type.
+    // The string under `name` in the key `path`; nothing if there is none or it is of another type.
     [[nodiscard]] std::optional<QString> String(const QString& path, const QString& name) const;
-    // Stores `text`, making the store when it is missing. A failure leaves it as it was.
+    // Stores `text`, creating the store if missing. A failure changes nothing.
     void SetString(const QString& path, const QString& name, const QString& text);
 
     // Begin to End is one transaction: no other process changes the store meanwhile, and at the end either
@@ -40,6 +40,6 @@ private:
 
     QString file_;
     bool changing_ = false;
-    mutable bool othersHang_ = false;  // found at the last use
-    mutable Connection change_;        // none when it could not begin or has failed, in a read too
+    mutable bool othersHang_ = false;  // as of the last use
+    mutable Connection change_;        // null if it could not begin or has failed, even in a read
 };

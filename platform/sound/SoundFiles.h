@@ -7,16 +7,16 @@
 
 class SoundOutput;
 
-// Plays sounds that are files, keeping their bytes so that a sound heard often is read once.
+// Plays sound files, caching their bytes so that each is read once.
 class SoundFiles {
 public:
     static constexpr qint64 kLargest = qint64{4} * 1024 * 1024;  // bytes; a larger file is not played
 
-    // output: where they are heard; it must outlive this.
+    // output: must outlive this.
     explicit SoundFiles(SoundOutput& output) : output_(output) {}
 
-    // Starts the WAVE file at `path` and returns at once. Reads it when it has not been read or has changed
-    // since. False, in silence, when it is missing, too large or no sound, or the output refuses it.
+    // Starts the WAVE file at `path` and returns at once. Reads it if it is new or has changed. False if
+    // it is missing, too large or not a sound, or the output refuses it.
     bool Play(const QString& path);
 
 private:

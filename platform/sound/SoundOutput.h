@@ -6,7 +6,7 @@
 class SoundOutput {
 public:
     virtual ~SoundOutput() = default;
-    // Starts `wave`, a whole RIFF WAVE file, cutting off the sound before, and returns at once. False when
-    // nothing will be heard: data that is no sound, or, as far as is known by now, nothing to play it on.
+    // Starts `wave`, a whole RIFF WAVE file, cutting off the previous sound, and returns at once. False if
+    // nothing will be heard: the data is not a sound or, as far as known, there is no output.
     virtual bool Play(const QByteArray& wave) = 0;
 };

@@ -21,7 +21,7 @@ constexpr auto kBehindThePicture = 3ms;
 
 struct SoundPlayer::Desk {
     SoundServer server;
-    std::mutex mutex;  // guards what follows; never held while something else is waited for
+    std::mutex mutex;  // guards the members below; never held during another wait
     std::optional<Sound> newest;
     bool toEnd = false, hasEnded = false;
     std::condition_variable end;
@@ -57,7 +57,7 @@ bool SoundPlayer::Begin() {
         thread_ = std::thread(Work, desk);
         desk_ = std::move(desk);
     } catch (const std::system_error&) {
-        return false;  // no files or no thread to be had now; the next sound tries again
+        return false;  // out of files or threads; the next sound tries again
     }
     return true;
 }

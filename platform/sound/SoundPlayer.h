@@ -5,8 +5,8 @@
 
 #include "platform/sound/SoundOutput.h"
 
-// The computer's sound. Play hands the sound to a thread, so it never blocks, whatever state the sound server
-// is in; if sounds arrive faster than they can be started, the newest wins. The thread starts with the first
+// The computer's sound. Play hands the sound to a thread, so it never blocks, even if the sound server
+// hangs; if sounds arrive faster than they can be started, the newest wins. The thread starts with the first
 // sound and sleeps between sounds.
 class SoundPlayer final : public SoundOutput {
 public:
@@ -23,6 +23,6 @@ private:
     static void Work(const std::shared_ptr<Desk>& desk);
     bool Begin();
 
-    std::shared_ptr<Desk> desk_;  // where sounds are laid ready; it lives as long as either side needs it
+    std::shared_ptr<Desk> desk_;  // hands sounds to the thread; owned by both sides
     std::thread thread_;
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-// How much of a sound the server prepares ahead. Short, so that a sound that is cut off ends at once.
+// How far ahead the server buffers. Short, so that a sound that is cut off ends at once.
 constexpr pa_usec_t kAhead = 40 * PA_USEC_PER_MSEC;
 constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
 
@@ -68,7 +68,7 @@ void SoundServer::Play(Sound sound) {
 void SoundServer::Connect() {
     Disconnect();
     context_ = pa_context_new(pa_mainloop_get_api(loop_), "Tesselor");
-    if (!context_) return GiveUp();  // it takes 64 MB of addresses
+    if (!context_) return GiveUp();  // it needs 64 MB of address space
     const auto changed = [](pa_context*, void* self) { static_cast<SoundServer*>(self)->ContextChanged(); };
     pa_context_set_state_callback(context_, changed, this);
     if (pa_context_connect(context_, nullptr, PA_CONTEXT_NOFLAGS, nullptr) < 0) GiveUp();
@@ -87,8 +87,8 @@ void SoundServer::ContextChanged() {
     StartNext();
 }
 
-// A stream that is just being opened cannot be taken back, so the next sound waits until it is there: at most
-// one request is under way, however long the server takes and however many sounds are asked for meanwhile.
+// A stream cannot be cancelled while it is being opened, so the next sound waits: at most one request is
+// pending, however slow the server is and however many sounds arrive meanwhile.
 void SoundServer::StartNext() {
     if (!next_ || pa_context_get_state(context_) != PA_CONTEXT_READY || IsOpening(stream_)) return;
     CloseStream();
@@ -117,8 +117,7 @@ void SoundServer::StreamChanged() {
     WriteAll();
 }
 
-// The whole sound goes out at once: the server keeps what it cannot play yet, and nothing here has to wake up
-// until it has played the end.
+// Sends the whole sound at once: the server buffers it, and the thread can sleep until it has been played.
 void SoundServer::WriteAll() {
     const QByteArray& samples = sound_.wave.samples;
     const auto size = static_cast<std::size_t>(samples.size());

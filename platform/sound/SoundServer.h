@@ -8,7 +8,7 @@
 
 #include "platform/sound/WaveData.h"
 
-// A sound to be heard now: once `late` has expired it has lost its occasion and is dropped.
+// A sound to play now; dropped once `late` has expired.
 struct Sound {
     WaveData wave;
     QDeadlineTimer late;
@@ -27,16 +27,16 @@ public:
     SoundServer(const SoundServer&) = delete;
     SoundServer& operator=(const SoundServer&) = delete;
 
-    // Cuts off the sound before and starts `sound`, connecting first when there is no connection.
+    // Cuts off the previous sound and starts `sound`, connecting first if there is no connection.
     void Play(Sound sound);
-    // Sleeps until the server says something, which is then handled, or until Wake.
+    // Sleeps until it has handled an event from the server, or until Wake.
     void AwaitEvent() { pa_mainloop_iterate(loop_, 1, nullptr); }
     // Ends the sound and the connection.
     void Disconnect();
 
     // Ends a sleep in AwaitEvent, also one that is about to begin. Any thread.
     void Wake();
-    // Whether the last that was heard of the server is good; true until something is heard. Any thread.
+    // Whether the server worked when last heard from; true at first. Any thread.
     [[nodiscard]] bool Works() const { return works_; }
 
 private:
@@ -49,10 +49,10 @@ private:
     void CloseStream();
     void GiveUp();
 
-    int bell_;  // an event counter that Wake raises and the loop watches
+    int bell_;  // an eventfd that Wake raises and the loop watches
     pa_mainloop* loop_ = nullptr;
     pa_context* context_ = nullptr;
-    pa_stream* stream_ = nullptr;  // of `sound_`, from the request for it until all has been heard
+    pa_stream* stream_ = nullptr;  // of `sound_`, from its request until it has been played
     Sound sound_;
     std::optional<Sound> next_;  // the newest sound, while the server has yet to answer
     std::atomic<bool> works_ = true;

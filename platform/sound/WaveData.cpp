@@ -4,25 +4,25 @@
 
 namespace {
 
-constexpr qsizetype kHead = 12;      // "RIFF", the size of what follows, "WAVE"
-constexpr qsizetype kChunkHead = 8;  // a name and the size of what follows
-constexpr qsizetype kFormat = 16;    // of a "fmt " chunk; what plain samples need comes first
+constexpr qsizetype kHead = 12;      // "RIFF", the size of the rest, "WAVE"
+constexpr qsizetype kChunkHead = 8;  // a name and the size of its contents
+constexpr qsizetype kFormat = 16;    // the PCM part of a "fmt " chunk
 constexpr int kPlainSamples = 1;
 
-// The number of type T, low byte first, at `at`, which must lie inside.
+// The little-endian T at `at`, which must be in range.
 template <typename T>
 qsizetype Number(QByteArrayView bytes, qsizetype at) {
     return qFromLittleEndian<T>(bytes.sliced(at, sizeof(T)).data());
 }
 
-// What the file says of its own length taken at its word: what lies behind the head, or nothing.
+// The contents of the RIFF chunk, as long as its header states; empty if that is invalid.
 QByteArrayView Body(QByteArrayView file) {
     if (file.size() < kHead || !file.startsWith("RIFF") || file.sliced(8, 4) != "WAVE") return {};
     const qsizetype end = 8 + Number<quint32>(file, 4);
     return end >= kHead && end <= file.size() ? file.sliced(kHead, end - kHead) : QByteArrayView();
 }
 
-// What the first chunk called `name` holds; null when there is none or a chunk before it is cut short.
+// The contents of the first chunk `name`; null if there is none or an earlier chunk is truncated.
 QByteArrayView Chunk(QByteArrayView body, QByteArrayView name) {
     while (body.size() >= kChunkHead) {
         const qsizetype size = Number<quint32>(body, 4);

@@ -22,7 +22,7 @@ void BoardControls::ConnectBoard(frmGame& form) {
     for (const int screen : {1, 2, 3})
         fraScreen[screen].access = {QAccessible::Grouping, Fixed(kScreens[screen - 1])};
     for (std::int16_t cell = 0; cell < picMat.size(); ++cell) {
-        // A press that ends beside the cells, or between them, is taken back.
+        // A press released beside the cells, or between them, is cancelled.
         picMat[cell].onMouseUp = [this, &form, cell](const MouseInput& in) {
             const QWidget* under = fraScreen[0].childAt(picMat[cell].pos() + QPoint(int(in.x), int(in.y)));
             if (under) form.picMat_MouseUp(cell, in.button, in.shift, in.x, in.y);

@@ -8,8 +8,7 @@
 
 class frmGame;
 
-// The four screens, of which the first is the board, and the board's cells. Start-up lays the screens over
-// one another.
+// The four screens, of which the first is the board, and the board's cells. Start-up stacks the screens.
 struct BoardControls {
     explicit BoardControls(QWidget* window);
 

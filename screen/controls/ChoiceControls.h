@@ -10,7 +10,7 @@
 
 class frmGame;
 
-// The screen where a level and a skin are chosen.
+// The screen for choosing a level and a skin.
 struct ChoiceControls {
     explicit ChoiceControls(QWidget* itsScreen);
 

@@ -3,19 +3,19 @@
 #include "platform/controls/Label.h"
 #include "screen/Look.h"
 
-// The looks that controls of several screens share.
+// The looks shared by controls of several screens.
 
 inline constexpr Qt::Alignment kLeft = Qt::AlignLeft | Qt::AlignVCenter;
 inline constexpr Qt::Alignment kRight = Qt::AlignRight | Qt::AlignVCenter;
 
-// A text in one of the sizes.
+// Styles a text.
 void Dress(Label& label, Look::Text text, Colour colour = Look::kLevel,
            Qt::Alignment alignment = Qt::AlignCenter);
 
-// A web link that reads `text`.
+// Styles a web link with the caption `text`.
 void DressAsLink(Label& label, const QString& text);
 
-// A control that answers a click, and shows it.
+// Gives `control` a hand cursor and a pressed look.
 template <class Control>
 void MakeClickable(Control& control) {
     control.setCursor(Qt::PointingHandCursor);

@@ -23,7 +23,7 @@ void HelpControls::ConnectHelp(frmGame& form) {
     QObject::connect(&cmdHelp, &QPushButton::clicked, &form, &frmGame::cmdHelp_Click);
     QObject::connect(&cmdDemo, &QPushButton::clicked, &form, &frmGame::cmdDemo_Click);
 
-    for (Label& key : lblKey) key.access = {};  // said with what it does
+    for (Label& key : lblKey) key.access = {};  // announced with its action
     lblHelpText2.access.name = Fixed("Move the card: arrow keys or mouse");
     lblHelpText3.access.name = Fixed("Lock the card: space bar or left mouse button");
     lblHelpText4.access.name = Fixed("Pause and resume: P or right mouse button");

@@ -10,7 +10,7 @@
 
 class frmGame;
 
-// The screen that shows how the game is played, with the ways to the rules and the demonstration.
+// The help screen: how to play, and the buttons for the rules and the demonstration.
 struct HelpControls {
     explicit HelpControls(QWidget* itsScreen);
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-// The areas and captions stand beside the window, but for those of "more".
+// The areas and captions are outside the visible window, except those of "more".
 std::array<Spot, 5> Beside(QWidget* window, const Spot& more) {
     std::array<Spot, 5> spots{};
     std::ranges::copy(Grid<4>(window, {7140, 6600, 690, 240}, 4, 900, 0), spots.begin());

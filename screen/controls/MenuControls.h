@@ -10,7 +10,7 @@
 class frmGame;
 
 // The menu: play, menu, help and score on the window's bar, and "more" on the help screen. Image2 of the
-// window shows the bar; the captions say what is on.
+// window shows the bar; the lit caption is that of the current screen.
 struct MenuControls {
     MenuControls(QWidget* window, QWidget* help);
 

@@ -13,7 +13,7 @@ constexpr int kMostLetters = 64;  // of a name
 NameControls::NameControls(QWidget* window)
     : picEnterName(window, {"picEnterName", {7140, 4200, 2655, 1215}, ""}) {
     picEnterName.BackColor(Look::kPanel);
-    picEnterName.Visible(false);  // so that the keyboard cannot reach it either
+    picEnterName.Visible(false);  // so that the keyboard cannot reach it
     shpEnterName[0].Look(QColor(0x4A, 0x36, 0x10), Look::kBrass);
     shpEnterName[1].Look(Look::kDarkBrass, ToQColor(Look::kPanel));
     Dress(Label3, Look::Text::Heading);

@@ -6,7 +6,7 @@
 
 namespace {
 
-constexpr qreal kCloseSetting = 95;  // percent: the highest score there can be fits its column
+constexpr qreal kCloseSetting = 95;  // percent; fits the highest possible score into its column
 
 }  // namespace
 

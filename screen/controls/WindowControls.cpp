@@ -24,7 +24,7 @@ WindowControls::WindowControls(QWidget* itsWindow) : window(itsWindow) {
     Dress(lblScore, Text::Number, Look::kNumber, kRight);
     Dress(lblCardsLeft, Text::Number, Look::kNumber);
     Picture4.BackColor(Look::kTray);
-    // The sheets leave a strip of the tray free at two sides: it goes with the floor around it.
+    // The screens leave a strip of the tray uncovered on two sides: paint it like the floor around it.
     Picture4.DrawFilledBox({0, 0}, {Picture4.width(), Picture4.height()}, Look::kFloor);
     picPreview.BackColor(Look::kTray);
     Dress(lblNextCard, Text::Small, kWhite);

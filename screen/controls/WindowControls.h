@@ -11,8 +11,8 @@
 
 class frmGame;
 
-// What stands on the window around the four screens: score, cards left, next card, time bar, links and the
-// images in its corner; and controls that no player sees. What stands right of 5985 or below 6165 is hidden.
+// The controls around the four screens: score, cards left, next card, time bar, links and the corner images;
+// and invisible ones. Anything right of 5985 or below 6165 is outside the window.
 struct WindowControls {
     explicit WindowControls(QWidget* itsWindow);
 

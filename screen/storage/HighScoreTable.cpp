@@ -35,11 +35,11 @@ void FillColumn(const char* column, const QString& text) {
 
 }  // namespace
 
-// Asked once before the step: a start that finds its table waits for nobody and writes nothing.
+// Check before the step too: if the table exists, start-up then neither waits nor writes.
 void CreateHighScores() {
     if (!IsMissing()) return;
     const mdlRegistry::Step step;
-    if (!IsMissing()) return;  // another game has been quicker
+    if (!IsMissing()) return;  // another process was faster
     FillColumn(kDate, QStringLiteral("0"));
     FillColumn(kScore, QStringLiteral("0"));
     FillColumn(kName, QString());

@@ -18,8 +18,8 @@ bool IsGroupMark(char32_t c) {
     return marks.find(c) != marks.npos || QChar::category(c) == QChar::Separator_Space;
 }
 
-// The first group has one to four digits (where four alone are not grouped, there are 2147.483.647 too),
-// those between two marks two or three.
+// The first group has one to four digits (some locales write 2147.483.647), those between two marks have two
+// or three.
 bool EndsGroup(int digits, bool first) {
     return first ? digits >= 1 && digits <= 4 : digits == 2 || digits == 3;
 }
