@@ -128,7 +128,9 @@ void PictureBox::dropEvent(QDropEvent* event) {
     // The game deletes the file itself, once it has stored it safely, so the drag source must see a copy.
     event->setDropAction(Qt::CopyAction);
     event->accept();
-    onFileDrop_(path);
+    // Not from within the drop: its source waits for that to end, and the window may be closed meanwhile.
+    QMetaObject::invokeMethod(
+        this, [this, path] { onFileDrop_(path); }, Qt::QueuedConnection);
 }
 
 ::Picture PictureBox::Image() const {

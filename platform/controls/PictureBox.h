@@ -57,8 +57,8 @@ public:
     void PaintPicture(const ::Picture& picture, QPoint at);
     void Clear();  // removes the drawings; the picture stays
 
-    // Takes files dropped on it: `handler` gets the path of the first one. Anything but a local file is
-    // refused during the drag.
+    // Takes files dropped on it: `handler` gets the path of the first one once the drop has ended.
+    // Anything but a local file is refused during the drag.
     void OnFileDrop(std::function<void(const QString& path)> handler);
 
     // The current contents, drawings included, as a picture.

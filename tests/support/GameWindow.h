@@ -106,6 +106,7 @@ public:
         enter.ignore();
         QCoreApplication::sendEvent(&target, &enter);
         if (enter.isAccepted()) QCoreApplication::sendEvent(&target, &drop);
+        QCoreApplication::processEvents();
         EXPECT_EQ(drop.isAccepted() && drop.dropAction() == Qt::CopyAction, enter.isAccepted());
         return enter.isAccepted();
     }
