@@ -24,8 +24,9 @@
 
 namespace {
 
-// The most memory Qt may allocate for one picture, in megabytes, so that no file can exhaust memory.
-constexpr int kPictureMegabytes = 96;
+// The most memory Qt may allocate for one picture, in megabytes, so that no file can exhaust memory: the
+// largest skin has 16 million pixels of 8 bytes.
+constexpr int kPictureMegabytes = 128;
 
 // Only the sizes shown in title bars and task bars; the desktop entry has larger ones.
 QIcon ProgramIcon() {

@@ -2,6 +2,7 @@
 
 #include <malloc.h>
 
+#include <QBuffer>
 #include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QGuiApplication>
@@ -12,6 +13,10 @@
 #include <new>
 
 namespace {
+
+// How much of a file is read to tell whether it may be a sheet: the worst head of this length takes some
+// milliseconds.
+constexpr qint64 kStartBytes = qint64{4} * 1024;
 
 QString Sentence(const QString& path, const QString& what) {
     return QStringLiteral("\"%1\" %2").arg(QFileInfo(path).fileName(), what);
@@ -39,14 +44,49 @@ bool HasAllRows(const QByteArray& bytes) {
                   : number(10) + row * qAbs(number(22)) <= bytes.size();
 }
 
-// Qt accepts some truncated pictures, so look for the end that their formats prescribe.
+// Whether the blocks of a GIF, each of parts that begin with their length, lead to its trailer.
+bool LeadsToTrailer(const QByteArray& bytes) {
+    const auto at = [&bytes](qsizetype place) { return place < bytes.size() ? uchar(bytes[place]) : 0; };
+    const auto table = [&at](qsizetype flags) { return at(flags) & 0x80 ? 6 << (at(flags) & 7) : 0; };
+    qsizetype place = 13 + table(10);
+    while (at(place) == ',' || at(place) == '!') {
+        place += at(place) == ',' ? 11 + table(place + 9) : 2;
+        while (at(place) > 0) place += 1 + at(place);
+        ++place;
+    }
+    return at(place) == ';';
+}
+
+// Qt accepts some truncated pictures, so look for the end that their formats prescribe. The last number of a
+// plain PNM may have lost digits unless a space follows it.
 bool IsCutShort(const QByteArray& format, const QByteArray& bytes) {
     const QByteArray tail = bytes.last(qMin<qsizetype>(bytes.size(), 64));
     if (format == "jpeg") return !tail.contains("\xFF\xD9");
-    if (format == "gif") return !tail.endsWith(';');
+    if (format == "png") return !tail.contains("IEND\xAE\x42\x60\x82");
+    if (format == "gif") return !LeadsToTrailer(bytes);
     if (format == "xbm" || format == "xpm") return !tail.trimmed().endsWith("};");
+    if (format == "webp") return bytes.size() < 8 + qint64{qFromLittleEndian<quint32>(bytes.data() + 4)};
+    if (bytes.size() > 1 && bytes[0] == 'P' && bytes[1] >= '1' && bytes[1] <= '3')
+        return !QChar::isSpace(uchar(tail.back()));
     return format == "bmp" && !HasAllRows(bytes);
 }
+
+// Whether the loader reads `format` as pixels. A drawing may name other files, and nothing bounds the time
+// and the memory to draw it.
+bool IsOfPixels(const QByteArray& format) {
+    return !format.isEmpty() && !format.startsWith("svg");
+}
+
+// The format and the size in the head of a picture; the size is invalid when it cannot be read.
+struct Head {
+    explicit Head(QImageReader& reader) : format(reader.format()) {
+        if (IsOfPixels(format)) size = reader.size();
+        // A BMP whose rows come from the top has a negative height.
+        if (format == "bmp" && size.height() >= -kMostSheetPixels) size.setHeight(qAbs(size.height()));
+    }
+    QByteArray format;  // asked for first: a reader that has failed knows none
+    QSize size;
+};
 
 // The bytes of a picture, which run dry when their time is up: that ends any decoder, without ending a
 // thread.
@@ -76,15 +116,23 @@ QImage Allocated(QImage image) {
     return image;
 }
 
-// Throws when there is no memory; a null image is one that cannot be read.
-QImage Decode(const QByteArray& bytes, QDeadlineTimer end) {
+// A null image is one that cannot be read, and `why` the end of the sentence that says so. Throws when there
+// is no memory.
+QImage Decode(const QByteArray& bytes, QDeadlineTimer end, QString& why) {
     ExpiringBytes device(bytes, end);
     QImageReader reader(&device);
-    if (!WhyNotThisSize(reader.size()).isEmpty() || IsCutShort(reader.format(), bytes)) return {};
+    const Head head(reader);
+    why = WhyNotThisSize(head.size);
+    if (!why.isEmpty()) return {};
+    why = QStringLiteral("is damaged or incomplete.");
+    if (IsCutShort(head.format, bytes)) return {};
     // Allocate first: QImageReader does not distinguish out of memory from a damaged picture.
-    (void)Allocated(QImage(reader.size(), QImage::Format_ARGB32));
+    (void)Allocated(QImage(head.size, QImage::Format_ARGB32));
     const QImage image = reader.read();
-    return end.hasExpired() ? QImage() : image;  // a device that runs dry passes for the end of a JPEG
+    // A device that runs dry passes for the end of a JPEG, and the picture in an icon may have another size.
+    if (end.hasExpired() || !WhyNotThisSize(image.size()).isEmpty()) return {};
+    why.clear();
+    return image;
 }
 
 // Edges that fall between two pixels are rounded, so the cells cover the sheet without a gap or an overlap.
@@ -126,9 +174,14 @@ QString WhyNotASheet(const QString& path) {
     if (!file.isFile()) return Sentence(path, QStringLiteral("was not found."));
     if (file.size() > kMostSheetBytes)
         return Sentence(path, QStringLiteral("is larger than 64 megabytes, the most a skin may have."));
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    const QString why = WhyNotThisSize(reader.size());
+    QFile opened(path);
+    if (!opened.open(QIODevice::ReadOnly)) return Sentence(path, QStringLiteral("cannot be opened."));
+    QByteArray start = opened.read(kStartBytes);
+    QBuffer buffer(&start);
+    QImageReader reader(&buffer);
+    const Head head(reader);
+    const bool comesLater = !head.size.isValid() && IsOfPixels(head.format) && file.size() > kStartBytes;
+    const QString why = comesLater ? QString() : WhyNotThisSize(head.size);
     return why.isEmpty() ? why : Sentence(path, why);
 }
 
@@ -155,10 +208,9 @@ std::shared_ptr<PictureSheet> PictureSheet::Load(const QString& path, QString& w
 std::shared_ptr<PictureSheet> PictureSheet::FromBytes(const QByteArray& bytes, const QString& path,
                                                       QString& why) {
     const QDeadlineTimer end(kMostDecoding);
-    const QImage sheet = Decode(bytes, end);
+    const QImage sheet = Decode(bytes, end, why);
     if (sheet.isNull()) {
-        why =
-            end.hasExpired() ? WhyTooSlow(path) : Sentence(path, QStringLiteral("is damaged or incomplete."));
+        why = end.hasExpired() ? WhyTooSlow(path) : Sentence(path, why);
         return nullptr;
     }
     std::shared_ptr<PictureSheet> loaded(new PictureSheet(bytes));
@@ -177,8 +229,7 @@ PictureSheet::~PictureSheet() {
 
 QImage PictureSheet::Render(int cell, qreal scale) const {
     if (cell < 0 || cell >= kSheetCells) return {};
-    if (cells_.empty() || cells_.front().devicePixelRatio() != scale)
-        Cut(Decode(bytes_, QDeadlineTimer(kMostDecoding)), scale);
+    if (cells_.front().devicePixelRatio() != scale) Recut(scale);
     return cells_[static_cast<std::size_t>(cell)];
 }
 
@@ -187,10 +238,20 @@ Picture PictureSheet::Thumbnail() const {
 }
 
 void PictureSheet::Cut(const QImage& sheet, qreal scale) const {
-    cells_.clear();
-    std::vector<QImage> cells;  // all of them or, when memory ends, none
+    std::vector<QImage> cells;  // all of them or, when memory ends, those before
     cells.reserve(kSheetCells);
     for (int cell = 0; cell < kSheetCells; ++cell)
         cells.push_back(Fit(sheet.copy(CellRect(sheet.size(), cell)), scale));
     cells_ = std::move(cells);
+}
+
+// The window waits for this, so a sheet that takes long is fitted from the cells there are.
+void PictureSheet::Recut(qreal scale) const {
+    QString why;
+    const QImage sheet = Decode(bytes_, QDeadlineTimer(kMostRedrawing), why);
+    if (!sheet.isNull()) return Cut(sheet, scale);
+    for (QImage& cell : cells_) {
+        cell.setDevicePixelRatio(1);
+        cell = Fit(cell, scale);
+    }
 }

@@ -20,12 +20,14 @@ inline constexpr int kCellPixels = 60;
 
 // The most time decoding may take: ten times what the largest PNG took where the limit was chosen.
 inline constexpr std::chrono::milliseconds kMostDecoding{5000};
+// The same while the window waits, because it has come to a screen of another scale.
+inline constexpr std::chrono::milliseconds kMostRedrawing{1000};
 
 // What the player is told of a file for which that was not enough.
 [[nodiscard]] QString WhyTooSlow(const QString& path);
 
 // Why the file `path` cannot be a picture set, as one sentence for the player that names the file; empty when
-// it can, as far as its head tells. Reads no more than the head.
+// it can, as far as its first kilobytes tell. Fast whatever they hold.
 [[nodiscard]] QString WhyNotASheet(const QString& path);
 
 // A picture cut into 3 x 13 equal cells, each fitted to 60 x 60 logical pixels with its aspect kept. Keeps
@@ -53,6 +55,7 @@ private:
                                                    QString& why);
     explicit PictureSheet(QByteArray bytes) : bytes_(std::move(bytes)) {}
     void Cut(const QImage& sheet, qreal scale) const;
+    void Recut(qreal scale) const;
 
     QByteArray bytes_;
     mutable std::vector<QImage> cells_;  // for the scale last asked for

@@ -42,14 +42,13 @@ TEST_F(Skins, ThatAreNoneTakeNoSlotAndAreRefused) {
         {"large.png", Encoded({4002, 4004}), "is 4002 x 4004 pixels; a skin has at most 16 million pixels."},
         {"long.png", {}, "is larger than 64 megabytes, the most a skin may have."},
     };
-    const QByteArray gif =
-        QByteArray::fromBase64("R0lGODlhAwANAPAAAP8AAAAAACH5BAAAAAAALAAAAAADAA0AAAIFhI+py1cAOw==");
-    std::map<QByteArray, QByteArray> whole{{"gif", gif}};
-    for (const char* format : {"png", "jpg", "bmp", "ppm", "xbm", "xpm"})
-        whole[format] = Encoded({300, 1300}, format);
+    std::map<QByteArray, QByteArray> whole{
+        {"gif", QByteArray::fromBase64("R0lGODlhAwANAPAAAP8AAAAAACwAAAAAAwANAAACBYSPqctXACH+AzthYgA7")}};
+    for (const char* as : {"png", "jpg", "bmp", "ppm", "xbm", "xpm"}) whole[as] = Encoded({300, 1300}, as);
+    whole["top-down"] = QByteArray(whole["bmp"]).replace(22, 4, QByteArray::fromHex("ecfaffff"));
+    whole["long head"] = QByteArray(whole["jpg"]).insert(2, QByteArray(5000, '\xFF'));
     for (const auto& [format, bytes] : whole)
-        files.emplace_back("half." + format, bytes.first(std::max<qsizetype>(bytes.size() / 2, 44)),
-                           "is damaged or incomplete.");
+        files.emplace_back("cut." + format, bytes.chopped(4), "is damaged or incomplete.");
     const auto make = [&files](const QDir& folder) {
         for (const auto& [name, bytes, told] : files) WriteFile(folder.filePath(name), bytes);
         for (const char* none : {"gone.png", "folder.png", "pipe.png"}) QFile::remove(folder.filePath(none));
@@ -65,7 +64,7 @@ TEST_F(Skins, ThatAreNoneTakeNoSlotAndAreRefused) {
             << dialogs.told.join(' ').toStdString();
         EXPECT_EQ(Files(), before);
     }
-    EXPECT_TRUE(QFile::exists(outside.filePath("half.png")));
+    EXPECT_TRUE(QFile::exists(outside.filePath("cut.png")));
     for (const auto& [format, bytes] : whole) {
         QString why;
         WriteFile(outside.filePath("whole"), bytes);
@@ -73,14 +72,14 @@ TEST_F(Skins, ThatAreNoneTakeNoSlotAndAreRefused) {
     }
     make(Art());
     Open();
-    EXPECT_EQ(form->skinFile[0], "half.bmp");  // listed by its head
+    EXPECT_EQ(form->skinFile[0], "cut.bmp");  // listed by its head
     form->FinishSkinSlots();
     EXPECT_EQ(form->skinFile[0] + form->skinFile[2] + form->skinFile[3], "test.pngv.png");
     EXPECT_TRUE(form->picSkin[2].focusPolicy() && !form->picSkin[3].focusPolicy());
     EXPECT_EQ(Model().SetSkinPicture(), "test.png");
     for (const char letter : QByteArray("BaCdegijklm")) WriteSkin(Art(QString("%1.png").arg(letter)));
     Open();  // the first twelve by name, some of them damaged
-    EXPECT_EQ(form->skinFile[1] + form->skinFile[11], "B.pnghalf.xbm");
+    EXPECT_EQ(form->skinFile[1] + form->skinFile[11], "B.pngcut.xpm");
 }
 
 TEST_F(Skins, TakeTheirTimeWhileTheWindowGoesOn) {
