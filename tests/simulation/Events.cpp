@@ -58,7 +58,7 @@ void DropFile(Sim& w, Choice c) {
     w.Attend();
     QWidget* target = w.form->childAt(w.form->picSkin[c / 64 % 12].mapTo(w.form.get(), QPoint(5, 5)));
     if (target && target->acceptDrops() && target->isEnabled())
-        Sim::Drop(*target, {QUrl::fromLocalFile(dropped)});
+        w.Drop(*target, {QUrl::fromLocalFile(dropped)});
 }
 
 }  // namespace
