@@ -1,8 +1,8 @@
 // The skins: which files fill the slots, the choice of one, and the picture set a game is played with.
 
 #include "screen/Look.h"
-#include "screen/SkinFiles.h"
 #include "screen/frmGame.h"
+#include "screen/storage/SkinFiles.h"
 #include "shell/mdlSound.h"
 
 namespace {

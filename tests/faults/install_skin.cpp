@@ -3,7 +3,7 @@
 #include <QCoreApplication>
 
 #include "platform/pictures/PictureSheet.h"
-#include "screen/SkinFiles.h"
+#include "screen/storage/SkinFiles.h"
 
 int main(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);

@@ -1,4 +1,4 @@
-#include "screen/SkinFiles.h"
+#include "screen/storage/SkinFiles.h"
 
 #include <unistd.h>
 #include <QDir>
