@@ -134,7 +134,7 @@ TEST_F(Skins, DroppedOnesTakeASlotUnderAFreeName) {
         EXPECT_EQ(dialogs.told.size(), full + (full && !taken && dialogs.answer));
         EXPECT_EQ(std::tuple(form->CurrentSkin, form->SkinCount), std::tuple(filled, art.size()));
         for (int framed = filled; const int over : {-1, 0, 11, filled}) {  // the red frame follows the mouse
-            form->picSkin_MouseMove(std::int16_t(over), 0, 0, 0, 0);
+            if (over >= 0) form->picSkin[std::size_t(over)].onMouseMove({});
             if (over >= 0 && over < form->SkinCount) framed = over;
             for (int i = 0; i < 12; ++i)
                 EXPECT_EQ(form->picSkin[std::size_t(i)].Contents().Render(1).pixel(1, 20) == 0xFFFF0000,
