@@ -104,7 +104,7 @@ QImage DecodeSheet(const QByteArray& bytes, QDeadlineTimer end, QString& why) {
     if (IsCutShort(head.format, bytes)) return {};
     // Allocate first: QImageReader does not distinguish out of memory from a damaged picture.
     (void)Allocated(QImage(head.size, QImage::Format_ARGB32));
-    const QImage image = reader.read();
+    QImage image = reader.read();
     // A device that runs dry passes for the end of a JPEG, and the picture in an icon may have another size.
     if (end.hasExpired() || !WhyNotThisSize(image.size()).isEmpty()) return {};
     why.clear();
