@@ -74,6 +74,7 @@ std::string Broken(const Simulation& w) {
     const auto lost = [&w](const QString& file) { return !QFile::exists(w.Art(file)); };
     const std::pair<const char*, bool> facts[] = {
         {"one screen is shown", ranges::count_if(form.fraScreen, visible) == 1},
+        {"\"next card\" is on the help screen", form.lblNextCard.Visible() == form.fraScreen[2].Visible()},
         {"only a game takes input", w.inDemo || game.RndAction() != on},
         {"all cards are counted", ranges::count_if(cells, occupied) == game.CardsInMatrix()},
         {"the board is shown", !whole || ranges::all_of(cells, right)},
