@@ -124,6 +124,9 @@ TEST(Looks, OfTheTimeBarArePaintedAnewWhereATickFills) {
         EXPECT_EQ(watch.Painted(), rows);
         EXPECT_EQ(bar.grab().toImage().pixel(19, value - 2), 0xFFE0E0E0);
     }
+    const QImage plain = bar.grab().toImage();
+    bar.Bar().ShowPercent(true);
+    EXPECT_NE(bar.grab().toImage(), plain) << "no caption";
 }
 
 // Where the text is, in a label of 100 x 60 pixels.

@@ -108,8 +108,8 @@ struct Spoken : testing::Test, Listener, StoreFile, GameWindow {
         for (const Label& caption : form->lblCaption)
             if (caption.ForeColor() == Look::kLitCaption) record += "lit: " + caption.Caption() + '\n';
     }
-    void Places() {
-        for (const QWidget* control : form->findChildren<QWidget*>())
+    void Places(const QString& name = {}) {
+        for (const QWidget* control : form->findChildren<QWidget*>(name))
             QDebug(&record).nospace() << control->objectName() << ' ' << control->geometry() << ' '
                                       << control->toolTip() << ' ' << control->cursor().shape() << ' '
                                       << control->font().pixelSize() << control->font().weight() << '\n';
@@ -121,7 +121,7 @@ struct Spoken : testing::Test, Listener, StoreFile, GameWindow {
 // Two games and all six screens. TESSELOR_ACCEPT in the environment takes what is found as what is due.
 TEST_F(Spoken, ASessionReadsLooksAndSoundsAsRecorded) {
     Step("help", [] {}), Screen();
-    Step("menu", [&] { form->imgButton_Click(1); }), Screen();
+    Step("menu", [&] { form->imgButton_Click(1); }), Screen(), Places("Shape1");
     Step("a level under the mouse, twice", [&] {
         for (int time = 0; time < 2; ++time) form->lblClass_MouseMove(3, 0, 0, 0, 0);
     });
