@@ -207,6 +207,9 @@ TEST(Pictures, KeepDrawingsUntilPictureOrClear) {
     EXPECT_EQ(middle(box.Image()), 0xFF000000);
     box.Picture({}), box.BackColor(kButtonFace);
     EXPECT_EQ(middle(box.Image()), QPalette().color(QPalette::Button).rgb());
+    box.DrawWidth(2), box.DrawMode(DrawMode::CopyPen), box.DrawBox({10, 10}, {50, 50}, kRed);
+    const auto red = [image = box.Image().At(3)](int x) { return image.pixel(x, 90) == 0xFFFF0000; };
+    EXPECT_TRUE(!red(26) && red(27) && red(32) && !red(33));
 }
 
 struct NoMemory : PictureSource {
