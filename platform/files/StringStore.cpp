@@ -66,8 +66,8 @@ void SetAside(const QString& file) {
     QFile::rename(file, aside);
 }
 
-// SQLite's code is over a megabyte and is used for moments only, so it need not stay resident: the system
-// maps the pages again when they are used. Called for each library until it returns something else than 0.
+// Drops SQLite's code from resident memory: it is over a megabyte, is needed only for moments, and is paged
+// in again on use. dl_iterate_phdr calls this for each library until it returns non-zero.
 int GiveBackCode(dl_phdr_info* library, std::size_t, void*) {
     if (!std::strstr(library->dlpi_name, "libsqlite3")) return 0;
     const auto page = static_cast<std::uintptr_t>(getpagesize());
@@ -75,7 +75,7 @@ int GiveBackCode(dl_phdr_info* library, std::size_t, void*) {
         const auto& part = library->dlpi_phdr[i];
         if (part.p_type != PT_LOAD || (part.p_flags & PF_W) != 0) continue;
         const std::uintptr_t begin = library->dlpi_addr + part.p_vaddr, within = begin % page;
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader tells addresses as numbers
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader gives addresses as integers
         madvise(reinterpret_cast<void*>(begin - within), part.p_memsz + within, MADV_DONTNEED);
     }
     return 1;

@@ -44,7 +44,7 @@ void Hover(QWidget& control, bool over) {
     QCoreApplication::sendEvent(&control, over ? &enter : &leave);
 }
 
-// What is painted anew of the control it watches.
+// Records which part of the watched control was repainted last.
 struct PaintWatch : QObject {
     bool eventFilter(QObject*, QEvent* event) override {
         if (event->type() == QEvent::Paint) rect_ = static_cast<QPaintEvent*>(event)->rect();

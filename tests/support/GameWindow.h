@@ -107,7 +107,7 @@ public:
         enter.ignore();
         QCoreApplication::sendEvent(&target, &enter);
         if (enter.isAccepted()) QCoreApplication::sendEvent(&target, &drop);
-        // Whoever drags from another program does not wait until the skin is read.
+        // The drop ends before the skin is read, so the drag source need not wait.
         EXPECT_EQ(drop.isAccepted() && drop.dropAction() == Qt::CopyAction && dialogs.told.isEmpty(),
                   enter.isAccepted());
         return QCoreApplication::processEvents(), enter.isAccepted();

@@ -65,10 +65,10 @@ def drawing(source, cells, columns, size=None):
 
 
 def refuse_broken(sheet):
-    """Exits when a piece that is used is missing, or is there twice: the renderer would be silent about it."""
+    """Exits if a piece that is used is missing or defined twice, which the renderer would not report."""
     ids, used = re.findall(r'\bid="([^"]+)"', sheet), set(re.findall(r'(?:href="|url\()#([^")]+)', sheet))
     if wrong := used - set(ids) | {piece for piece in ids if ids.count(piece) > 1}:
-        raise SystemExit(f"missing or there twice: {', '.join(sorted(wrong))}")
+        raise SystemExit(f"missing or defined twice: {', '.join(sorted(wrong))}")
 
 
 def main():

@@ -19,12 +19,12 @@ CELLS = [(83 + cell % 4 * 66, 93 + cell // 4 * 66) for cell in range(16)]
 
 
 def pause():
-    """What `until` does between two looks; a program with an event loop replaces it."""
+    """Called by `until` between polls; a program with an event loop replaces it."""
     time.sleep(0.005)
 
 
 def until(holds, what, seconds=30):
-    """Looks until `holds()` is true and returns it; fails with `what` after `seconds`."""
+    """Polls until `holds()` is true and returns its value; fails with `what` after `seconds`."""
     end = time.monotonic() + seconds
     while not (held := holds()):
         assert time.monotonic() < end, what
@@ -49,7 +49,7 @@ class Desktop:
         os.environ["DISPLAY"] = ":" + self.server.stdout.readline().strip()
         pixels = numpy.memmap(self.folder / "Xvfb_screen0", mode="r")[-self.WIDTH * self.HEIGHT * 4:]
         self.screen = pixels.reshape(self.HEIGHT, self.WIDTH, 4)
-        # A window manager without uses of its own for the mouse: it would hold each click back to look at it first.
+        # Without mouse bindings: the window manager would delay every click to check for one.
         (self.folder / "rc.xml").write_text('<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse/></openbox_config>')
         ready = self.folder / "ready"
         self.start("openbox", "--sm-disable", "--config-file", self.folder / "rc.xml", "--startup", f"touch {ready}")
