@@ -55,7 +55,8 @@ class Desktop:
         self.start("openbox", "--sm-disable", "--config-file", self.folder / "rc.xml", "--startup", f"touch {ready}")
         until(ready.exists, "no window manager")
 
-    def start(self, *command, end=signal.SIGKILL, **options):
+    @staticmethod
+    def start(*command, end=signal.SIGKILL, **options):
         """Starts a program that ends with this process."""
         process = subprocess.Popen(command, text=True, **options)
         atexit.register(process.wait)  # a server that is still ending would take the name of the next one's display away
