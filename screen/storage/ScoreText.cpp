@@ -12,10 +12,15 @@ bool IsDigit(char32_t c) {
     return QChar::category(c) == QChar::Number_DecimalDigit;
 }
 
-// Comma, full stop, apostrophes, underscore, the commas of Arabic and Fulah, and spaces of any width.
+bool IsSpace(char32_t c) {
+    return QChar::category(c) == QChar::Separator_Space;
+}
+
+// Comma, full stop, apostrophes, underscore, the commas of Arabic, N'Ko and Fulah, a letter of Geez, and
+// spaces of any width.
 bool IsGroupMark(char32_t c) {
-    constexpr std::u32string_view marks = U",.'\u2019_\u066C\u2E41";
-    return marks.find(c) != marks.npos || QChar::category(c) == QChar::Separator_Space;
+    constexpr std::u32string_view marks = U",.'\u2019_\u066C\u060C\u2E41\u12C8";
+    return marks.find(c) != marks.npos || IsSpace(c);
 }
 
 // The first group has one to four digits (some locales write 2147.483.647), those between two marks have two
@@ -41,6 +46,7 @@ std::int32_t ScoreFromText(const QString& text) {
             return 0;
         }
     }
-    const bool complete = mark == 0 || digits == 3;
+    // Toki Pona writes pairs: 1 23 45. No locale writes a fraction behind a space.
+    const bool complete = mark == 0 || digits == 3 || (digits == 2 && IsSpace(mark));
     return complete ? static_cast<std::int32_t>(number) : 0;
 }
