@@ -20,11 +20,11 @@ frmGame::frmGame(World world)
       MenuControls(this, &fraScreen[2]),
       NameControls(this),
       world_(std::move(world)) {
+    access = {QAccessible::Window, Fixed("Tesselor")};  // before Qt tells of the window's title
     setObjectName(QStringLiteral("frmGame"));
     setWindowTitle(QStringLiteral("Tesselor"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
-    access = {QAccessible::Window, Fixed("Tesselor")};
     ConnectWindow(*this);
     ConnectBoard(*this);
     ConnectChoices(*this);

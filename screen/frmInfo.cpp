@@ -46,6 +46,8 @@ frmInfo::frmInfo(QWidget* owner, const ProgramFolder& folder)
       shpArea(this, {QStringLiteral("shpArea"), {1830, 5280, 1095, 375}, {}}),
       lblCaption(this, {QStringLiteral("lblCaption"), {1830, 5295, 1095, 345}, QStringLiteral("OK")}),
       imgButton(this, {QStringLiteral("imgButton"), {1830, 5280, 1095, 375}, {}}) {
+    // Before Qt tells of the window's title.
+    access = {QAccessible::Dialog, [] { return QStringLiteral("The rules of the game"); }};
     setObjectName(QStringLiteral("frmInfo"));
     setWindowTitle(QStringLiteral("Tesselor"));
     setFixedSize(kWindow.InPixels().size());
@@ -60,7 +62,6 @@ frmInfo::frmInfo(QWidget* owner, const ProgramFolder& folder)
         imgButton_MouseMove(in.button, in.shift, in.x, in.y);
     };
     imgButton.onClick = [this] { imgButton_Click(); };
-    access = {QAccessible::Dialog, [] { return QStringLiteral("The rules of the game"); }};
     lblCaption.access = {};
     imgButton.access = {QAccessible::PushButton, [this] { return lblCaption.Caption(); },
                         [this] { imgButton_Click(); }};
