@@ -33,7 +33,9 @@ constexpr std::array<CellLines, kCells> kLines = [] {
     return all;
 }();
 
-bool AllEqual(const LineCards& line, std::int32_t CardInfo::*element) {
+using Element = decltype(&CardInfo::Quantity);
+
+bool AllEqual(const LineCards& line, Element element) {
     return line[0].*element == line[1].*element && line[1].*element == line[2].*element &&
            line[2].*element == line[3].*element;
 }

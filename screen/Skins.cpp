@@ -89,8 +89,9 @@ void frmGame::picSkin_OLEDragDrop(std::int16_t& Index, const QString& Data, std:
     QString name = NameInFolder(Data, folder);
     if (const qsizetype known = name.isEmpty() ? -1 : skinFile.indexOf(name); known >= 0)
         Index = static_cast<std::int16_t>(known);
-    else if (name.isEmpty() && (name = Install(*sheet, Data, folder, Index)).isEmpty())
-        return;
+    else if (name.isEmpty())
+        name = Install(*sheet, Data, folder, Index);
+    if (name.isEmpty()) return;
     // The slot becomes that of the skin; the first empty one comes into use.
     skinFile[Index] = name;
     ShowInSlot(Index, *sheet);

@@ -129,8 +129,8 @@ void PictureBox::dropEvent(QDropEvent* event) {
     event->setDropAction(Qt::CopyAction);
     event->accept();
     // Not from within the drop: its source waits for that to end, and the window may be closed meanwhile.
-    QMetaObject::invokeMethod(
-        this, [this, path] { onFileDrop_(path); }, Qt::QueuedConnection);
+    const auto read = [this, path] { onFileDrop_(path); };
+    QMetaObject::invokeMethod(this, read, Qt::QueuedConnection);
 }
 
 ::Picture PictureBox::Image() const {

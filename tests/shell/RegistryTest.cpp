@@ -49,7 +49,7 @@ TEST(Registry, GivesTheStoredTextOrTheDefaultToItsOwnerAlone) {
 
 // The entry itself, and what is in it.
 std::pair<ino_t, QByteArray> Entry(const QString& path) {
-    struct stat found {};
+    struct stat found = {};
     lstat(QFile::encodeName(path).constData(), &found);
     return {found.st_ino, S_ISREG(found.st_mode) ? ReadFile(path) : QByteArray()};
 }
