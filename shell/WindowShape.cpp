@@ -5,6 +5,14 @@
 #include <QWidget>
 #include <QWindow>
 
+namespace {
+
+bool IsWayland() {
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+}  // namespace
+
 void WindowShape::Apply(QWidget& window) {
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
@@ -29,13 +37,13 @@ void WindowShape::KeepOnScreens(QWidget& window) {
 
 void WindowMove::Press(const QWidget& window, QPoint global, bool leftButton) {
     grip_ = global - window.pos();
-    state_ = leftButton ? State::PressedLeft : State::Pressed;
+    state_ = leftButton || IsWayland() ? State::PressedToHandOver : State::Pressed;
 }
 
 void WindowMove::Move(QWidget& window, QPoint global) {
     if (state_ == State::Idle) return;
     QWindow* handle = window.windowHandle();
-    if (state_ == State::PressedLeft && handle && handle->startSystemMove()) return Release();
+    if (state_ == State::PressedToHandOver && handle && handle->startSystemMove()) return Release();
     state_ = State::Following;
     window.move(global - grip_);
 }
