@@ -7,6 +7,7 @@ import desktop
 import numpy
 from desktop import CELLS, EXIT, PREVIEW, Desktop, until
 from gi.repository import GLib
+from windows import Openbox
 
 START, ERASER, COVER, BLACK = 12, 36, 36, -1
 SCREEN = 60, 130, 250, 150
@@ -22,8 +23,8 @@ def write_skin(path, cell=4, tint=0):
 
 
 class Desk(Desktop):
-    def __init__(self, program, scale=1):
-        super().__init__(scale)
+    def __init__(self, program, scale=1, windows=Openbox):
+        super().__init__(scale, windows)
         self.program, self.home = program, self.folder / "home"
         (self.home / "Art").mkdir(parents=True)
         write_skin(self.home / "Art/cards.ppm")
@@ -40,9 +41,10 @@ class Desk(Desktop):
     # Waits for a message, and until Return has answered it.
     def answer(self, key="Return"):
         box = until(lambda: self.shown() - {self.window}, "no message").pop()
-        self.do("windowfocus", box, "key", key)
+        self.windows.focus(box)
+        self.do("key", key)
         until(lambda: box not in self.shown(), "the message stays")
-        self.do("windowfocus", self.window)
+        self.windows.focus(self.window)
 
     def look(self):
         return Picture(self.pixels())

@@ -9,6 +9,7 @@ import tempfile
 import time
 
 import numpy
+from windows import Openbox
 
 # Where things are, in logical pixels from the window's corner.
 HELP, SCORE, MENU, PLAY, MINIMISE, EXIT = (367, 125), (367, 172), (367, 217), (366, 262), (363, 11), (384, 11)
@@ -33,15 +34,15 @@ def until(holds, what, seconds=30):
 
 
 class Desktop:
-    """An X server in memory and a window manager. Sets the environment of this process, and ends with it."""
+    """An X server in memory, and what manages the windows there. Sets the environment of this process, and ends with
+    it."""
     WIDTH, HEIGHT = 1400, 1000
 
-    def __init__(self, scale=1):
+    def __init__(self, scale=1, windows=Openbox):
         self.kept = tempfile.TemporaryDirectory(ignore_cleanup_errors=True)
         self.folder, self.scale = pathlib.Path(self.kept.name), scale
         os.environ |= {f"XDG_{name}_HOME": str(self.folder / name) for name in ("CONFIG", "DATA", "CACHE", "STATE")} | {
-            "XDG_RUNTIME_DIR": self.kept.name, "PULSE_SERVER": f"unix:{self.folder}/native", "LC_ALL": "C.UTF-8",
-            "QT_QPA_PLATFORM": "xcb", "GDK_BACKEND": "x11"}
+            "XDG_RUNTIME_DIR": self.kept.name, "PULSE_SERVER": f"unix:{self.folder}/native", "LC_ALL": "C.UTF-8"}
         # Keys do not repeat: on a busy machine any press is a long one.
         self.server = self.start("Xvfb", "-displayfd", "1", "-screen", "0", f"{self.WIDTH}x{self.HEIGHT}x24", "-fbdir",
                                  self.folder, "-nocursor", "-r", end=signal.SIGTERM, stdout=subprocess.PIPE,
@@ -49,11 +50,8 @@ class Desktop:
         os.environ["DISPLAY"] = ":" + self.server.stdout.readline().strip()
         pixels = numpy.memmap(self.folder / "Xvfb_screen0", mode="r")[-self.WIDTH * self.HEIGHT * 4:]
         self.screen = pixels.reshape(self.HEIGHT, self.WIDTH, 4)
-        # Without mouse bindings: the window manager would delay every click to check for one.
-        (self.folder / "rc.xml").write_text('<openbox_config xmlns="http://openbox.org/3.4/rc"><mouse/></openbox_config>')
-        ready = self.folder / "ready"
-        self.start("openbox", "--sm-disable", "--config-file", self.folder / "rc.xml", "--startup", f"touch {ready}")
-        until(ready.exists, "no window manager")
+        self.windows = windows(self)
+        until((self.folder / "ready").exists, "no window manager")
 
     @staticmethod
     def start(*command, end=signal.SIGKILL, **options):
@@ -69,19 +67,19 @@ class Desktop:
 
     def play(self, program):
         """Starts the game in the upper left corner of the screen."""
-        os.environ["QT_SCALE_FACTOR"] = str(self.scale)
-        self.game = self.start(program)
+        self.game = self.start(*self.windows.RUN, program)
         self.window = until(self.shown, "no window").pop()
-        self.do("windowmove", self.window, 0, 0, "windowfocus", self.window)
-        until(lambda: self.pixels()[200, 5, 2] > 20, "the window is not painted")
+        self.windows.move(self.window, 0, 0)
+        self.windows.focus(self.window)
+        until(lambda: self.pixels()[200, 5, 2] > 70, "the window is not painted")
 
     def shown(self):
         """The ids of the game's windows."""
-        return set(self.do("search", "--onlyvisible", "--name", "^Tesselor$").split())
+        return self.windows.shown("Tesselor")
 
     def pixels(self):
-        """The game window in red, green and blue, a pixel for each logical one."""
-        rows, columns = ((numpy.arange(size) * self.scale).astype(int) for size in (411, 399))
+        """The game window in red, green and blue: what is in the middle of each logical pixel."""
+        rows, columns = ((numpy.arange(0.5, size) * self.scale).astype(int) for size in (411, 399))
         return self.screen[numpy.ix_(rows, columns)][..., 2::-1]
 
     def point(self, place, *then):
