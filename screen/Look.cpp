@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 
 namespace Look {
 namespace {
@@ -47,6 +47,18 @@ QPalette Palette() {
     return palette;
 }
 
+class Style : public QProxyStyle {
+public:
+    Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+    // No tooltip before the last one is gone. Otherwise Qt moves that one, which Wayland does not let it.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* data) const override {
+        if (hint == SH_ToolTip_FallAsleepDelay) return 0;
+        return QProxyStyle::styleHint(hint, option, widget, data);
+    }
+};
+
 }  // namespace
 
 QFont Font(Text text) {
@@ -59,7 +71,7 @@ QFont Font(Text text) {
 }
 
 void Apply(QApplication& application) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(new Style);  // which Qt owns
     QApplication::setPalette(Palette());
     application.setFont(Font(Text::Normal));
 }
