@@ -5,18 +5,14 @@
 #include <QWidget>
 #include <QWindow>
 
-namespace {
-
-bool IsWayland() {
-    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
-
-}  // namespace
-
 void WindowShape::Apply(QWidget& window) {
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     window.setFixedSize(kRegion.size());
+}
+
+bool WindowShape::IsOnWayland() {
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 QPoint WindowShape::OnScreen(QRect place, const QRect& screen) {
@@ -37,7 +33,7 @@ void WindowShape::KeepOnScreens(QWidget& window) {
 
 void WindowMove::Press(const QWidget& window, QPoint global, bool leftButton) {
     grip_ = global - window.pos();
-    state_ = leftButton || IsWayland() ? State::PressedToHandOver : State::Pressed;
+    state_ = leftButton || WindowShape::IsOnWayland() ? State::PressedToHandOver : State::Pressed;
 }
 
 void WindowMove::Move(QWidget& window, QPoint global) {

@@ -15,6 +15,9 @@ inline constexpr QRect kRegion{QPoint(2, 22), QPoint(400, 432)};
 // Makes `window` frameless, with the fixed size of the visible rectangle, 399 x 411.
 void Apply(QWidget& window);
 
+// Whether the window system is Wayland, where a program cannot place its windows.
+[[nodiscard]] bool IsOnWayland();
+
 // The top left corner of `place` once moved onto `screen`, as far as it fits.
 [[nodiscard]] QPoint OnScreen(QRect place, const QRect& screen);
 

@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "shell/CommandLine.h"
+#include "shell/WindowShape.h"
 #include "shell/mdlMain.h"
 
 namespace {
@@ -35,5 +36,8 @@ int main(int argc, char* argv[]) {
     qInstallMessageHandler(theUsualHandler);
     QApplication::setApplicationName(QStringLiteral("Tesselor"));
     QApplication::setDesktopFileName(QStringLiteral("tesselor"));
-    return mdlMain::Main();
+    const int status = mdlMain::Main();
+    // Qt 6.4 can wait forever for its own thread when it leaves a Wayland display.
+    if (WindowShape::IsOnWayland()) std::_Exit(status);
+    return status;
 }
