@@ -53,8 +53,9 @@ class Sway:
             input * repeat_rate 0
             xwayland disable
             exec touch {desktop.folder}/ready""")
-        # Some versions refuse to run as root, who is nobody in a namespace of its own.
-        as_nobody = ["unshare", "--user"] if os.geteuid() == 0 else []
+        # Some versions refuse to run as root.
+        as_nobody = ["setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "--inh-caps=+dac_override",
+                     "--ambient-caps=+dac_override"] if os.geteuid() == 0 else []
         desktop.start(*as_nobody, "sway", "--config", config, end=signal.SIGTERM, stderr=subprocess.DEVNULL)
 
     def message(self, *words):
