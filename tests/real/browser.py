@@ -11,18 +11,19 @@ from urllib.request import urlopen
 import numpy
 from desk import START, Desk, Picture
 from desktop import CELLS, PLAY, until
-from selenium import webdriver
+from selenium.webdriver import Chrome, ChromeOptions
+from selenium.webdriver.chrome.service import Service
 from selenium.webdriver.common.action_chains import ActionChains
 from selenium.webdriver.common.keys import Keys
 
 desk = Desk(None)  # keeps the player's own files out of this
 served = desk.start(*sys.argv[1:], end=signal.SIGTERM, start_new_session=True, stdout=subprocess.PIPE)
 address, port = re.search(r"(http://127.0.0.1:(\d+)/\S+)", served.stdout.readline()).groups()
-options = webdriver.ChromeOptions()
+options = ChromeOptions()
 options.binary_location = "/usr/bin/chromium"
 for argument in ("--headless=new", "--no-sandbox"):
     options.add_argument(argument)
-with webdriver.Chrome(options=options) as browser:
+with Chrome(options=options, service=Service("/usr/bin/chromedriver")) as browser:
     browser.get(address)
     screen = until(lambda: browser.find_elements("css selector", "canvas[width='399']"), "no screen")[0]
 
