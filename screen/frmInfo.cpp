@@ -39,10 +39,16 @@ void DressHeadings(QTextDocument& document) {
     }
 }
 
+// Without a frame on Wayland: some compositors give it no button, others leave it to Qt, whose buttons do more
+// than a dialog can.
+Qt::WindowFlags Kind() {
+    return WindowShape::IsOnWayland() ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Dialog;
+}
+
 }  // namespace
 
 frmInfo::frmInfo(QWidget* owner, const ProgramFolder& folder)
-    : QWidget(owner, Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
+    : QWidget(owner, Kind()),
       shpArea(this, {QStringLiteral("shpArea"), {1830, 5280, 1095, 375}, {}}),
       lblCaption(this, {QStringLiteral("lblCaption"), {1830, 5295, 1095, 345}, QStringLiteral("OK")}),
       imgButton(this, {QStringLiteral("imgButton"), {1830, 5280, 1095, 375}, {}}) {
@@ -115,9 +121,18 @@ void frmInfo::imgButton_Click() {
     close();
 }
 
+void frmInfo::mousePressEvent(QMouseEvent* event) {
+    move_.Press(*this, event->globalPosition().toPoint(), event->button() == Qt::LeftButton);
+}
+
 void frmInfo::mouseMoveEvent(QMouseEvent* event) {
     const MouseInput in = ToMouseInput(*event);
     Form_MouseMove(in.button, in.shift, in.x, in.y);
+    move_.Move(*this, event->globalPosition().toPoint());
+}
+
+void frmInfo::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    move_.Release();
 }
 
 void frmInfo::keyPressEvent(QKeyEvent* event) {

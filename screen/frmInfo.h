@@ -7,9 +7,10 @@
 #include "platform/controls/Label.h"
 #include "platform/controls/Shape.h"
 #include "platform/files/ProgramFolder.h"
+#include "shell/WindowShape.h"
 
 // The information window: the rules text, read from "\Res\Tesselor rules.txt" each time the window is
-// created. Without the file it is empty. Its button and Escape close it.
+// created. Without the file it is empty. Its button and Escape close it; its background moves it.
 class frmInfo final : public QWidget, public HasAccess {
 public:
     // `owner`: the game window, above which this one stays.
@@ -29,10 +30,14 @@ public:
     FocusRing focusRing{this};
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void DressControls();
     void DressText();
+
+    WindowMove move_;
 };

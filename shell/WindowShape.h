@@ -27,9 +27,9 @@ void KeepOnScreens(QWidget& window);
 }  // namespace WindowShape
 
 // Drags a window by its background. The left button hands the drag to the window system if it supports that;
-// otherwise the window follows the mouse. On Wayland, where a program cannot move its window, every button hands
-// it over. The drag starts with the first motion: handing over a mere click could leave the window stuck to the
-// mouse.
+// otherwise the window follows the mouse. On Wayland, where a program cannot move its window, every button
+// hands it over. The drag starts with the first motion: handing over a mere click could leave the window
+// stuck to the mouse.
 class WindowMove {
 public:
     // A press at `global`, in screen coordinates. `leftButton`: X11 hands over no other button's drag.
