@@ -14,10 +14,23 @@ namespace {
 
 QtMessageHandler theUsualHandler = nullptr;
 
+// The package with Qt's Wayland plugin on this system.
+const char* WaylandPackage() {
+    const QStringList others{"alpine", "centos", "fedora", "rhel"};
+    return others.contains(QSysInfo::productType()) ? "qt6-qtwayland" : "qt6-wayland";
+}
+
+// Why there is no window. `message`: Qt's, which ends in advice to reinstall and the plugins it has found.
+QString WhyNoWindow(const QString& message) {
+    if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && !message.contains(QLatin1String("wayland")))
+        return QStringLiteral("Qt's plugin for Wayland is missing; it is in the package ") + WaylandPackage();
+    return message.section(QStringLiteral(" Reinstalling"), 0, 0).simplified();
+}
+
 // Qt aborts when it cannot reach a display. Exit cleanly instead of dumping core.
 void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     if (type != QtFatalMsg) return theUsualHandler(type, context, message);
-    std::fprintf(stderr, "tesselor cannot show its window: %s\n", qPrintable(message.simplified()));
+    std::fprintf(stderr, "tesselor cannot show its window: %s\n", qPrintable(WhyNoWindow(message)));
     std::_Exit(EXIT_FAILURE);
 }
 
