@@ -73,11 +73,6 @@ void Narrator::TellChanges(Told& told) {
         told.chosen = !told.chosen;
         TellChoice(told.control, told.access.role);
     }
-    if (told.access.percent && told.access.percent() != told.percent) {
-        told.percent = told.access.percent();
-        QAccessibleValueChangeEvent change(told.control, told.percent);
-        QAccessible::updateAccessibility(&change);
-    }
 }
 
 // While the board has the keyboard, its active card has the focus.

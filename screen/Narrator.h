@@ -8,7 +8,8 @@
 class frmGame;
 
 // Notifies assistive technology of changes in the game window and announces events of the game, whenever the
-// event loop is about to block. Does nothing without a listener.
+// event loop is about to block. Does nothing without a listener. Progress of the time bar is not notified: screen
+// readers would speak its percentages in between, and the one that matters is announced.
 class Narrator {
 public:
     // `form`: all its controls are described; it must outlive this.
@@ -34,7 +35,6 @@ private:
         const Access& access;
         QString name;
         bool chosen = false;
-        int percent = 0;
     };
 
     static void TellChanges(Told& told);
