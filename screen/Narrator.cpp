@@ -60,8 +60,9 @@ void Narrator::Look() {
     if (!QAccessible::isActive()) return;
     for (Told& told : told_)
         if (told.control->isVisible()) TellChanges(told);
+    QWidget* active = NewActiveCell();
     if (!news_.isEmpty()) Say(std::exchange(news_, {}).join(u' '));
-    TellActiveCard();
+    if (active) Tell(active, QAccessible::Focus);
 }
 
 void Narrator::TellChanges(Told& told) {
@@ -75,18 +76,19 @@ void Narrator::TellChanges(Told& told) {
     }
 }
 
-// While the board has the keyboard, its active card has the focus.
-void Narrator::TellActiveCard() {
-    const std::int16_t active = form_.ActiveCell();
-    if (active < 0 || !form_.fraScreen[0].Visible() || !form_.hasFocus()) return turn_.clear();
+QWidget* Narrator::NewActiveCell() {
+    const bool boardHasFocus = form_.fraScreen[0].Visible() && form_.hasFocus();
+    if (!boardHasFocus) focused_ = nullptr;
+    const std::int16_t active = boardHasFocus ? form_.ActiveCell() : std::int16_t{-1};
+    if (active < 0) return turn_.clear(), nullptr;
     PictureBox& cell = form_.picMat[active];
     // Include the counters: the next card may equal the one before, in the same place.
     const QString turn = cell.access.name() + form_.picPreview.access.name() + form_.lblCardsLeft.Caption() +
                          '/' + form_.lblScore.Caption();
-    if (turn != turn_) {
-        turn_ = turn;
-        Tell(&cell, QAccessible::Focus);
-    }
+    if (std::exchange(turn_, turn) == turn) return nullptr;
+    // Screen readers do not read what has the focus already.
+    if (std::exchange(focused_, &cell) == &cell) news_ += cell.access.name();
+    return &cell;
 }
 
 void Narrator::Say(const QString& sentence) {

@@ -8,8 +8,8 @@
 class frmGame;
 
 // Notifies assistive technology of changes in the game window and announces events of the game, whenever the
-// event loop is about to block. Does nothing without a listener. Progress of the time bar is not notified: screen
-// readers would speak its percentages in between, and the one that matters is announced.
+// event loop is about to block. Does nothing without a listener. Progress of the time bar is not notified:
+// screen readers would speak its percentages in between, and the one that matters is announced.
 class Narrator {
 public:
     // `form`: all its controls are described; it must outlive this.
@@ -38,14 +38,17 @@ private:
     };
 
     static void TellChanges(Told& told);
-    void TellActiveCard();
+    // The cell of the active card if it or its card is new, else null. It has the focus while the board has
+    // the keyboard.
+    QWidget* NewActiveCell();
     void Say(const QString& sentence);
 
     frmGame& form_;
     std::vector<Told> told_;
     QStringList news_;  // not announced yet
     bool timedLock_ = false;
-    QString turn_;
-    Control<QWidget> spot_;  // invisible; its name is the last announcement
+    QString turn_;                      // the active card as last told
+    const QWidget* focused_ = nullptr;  // the cell that has the focus
+    Control<QWidget> spot_;             // invisible; its name is the last announcement
     QString said_;
 };
