@@ -40,6 +40,7 @@ void frmGame::keyPressEvent(QKeyEvent* event) {
         if (!AnswerKey(*this, *event)) QWidget::keyPressEvent(event);
         return;
     }
+    setFocus();  // what the key does to the board is announced only while the board has the focus
     // A key would put a demonstration's script out of step with its board; Escape always works.
     if (!demoRuns_ || event->key() == Qt::Key_Escape) Form_KeyDown(key, 0);
 }

@@ -4,6 +4,7 @@
 
 #include "model/Levels.h"
 #include "screen/Look.h"
+#include "screen/Narrator.h"
 #include "screen/frmGame.h"
 #include "shell/mdlSound.h"
 
@@ -42,6 +43,7 @@ void frmGame::imgButton_Click(std::int16_t Index) {
     if (click != clicks_) return;
     if (!failure.isEmpty()) return world_.dialogs.Tell(this, failure);
     Highlight(Index);
+    if (Index != kPlay && Index != kMore) narrator_->AddScreen(fraScreen[Index]);
     mdlSound::PlayWave(mdlSound::Wave(111));
 }
 

@@ -56,6 +56,12 @@ void Narrator::AddEnd() {
     Add(QStringLiteral("Game over. %1.").arg(form_.lblScore.access.name()));
 }
 
+void Narrator::AddScreen(const Frame& screen) {
+    Add(screen.access.name() + '.');
+    for (const Label* label : screen.findChildren<Label*>())
+        if (label->access.role == QAccessible::StaticText) Add(label->access.name() + '.');
+}
+
 void Narrator::Look() {
     if (!QAccessible::isActive()) return;
     for (Told& told : told_)
@@ -77,10 +83,9 @@ void Narrator::TellChanges(Told& told) {
 }
 
 QWidget* Narrator::NewActiveCell() {
-    const bool boardHasFocus = form_.fraScreen[0].Visible() && form_.hasFocus();
-    if (!boardHasFocus) focused_ = nullptr;
-    const std::int16_t active = boardHasFocus ? form_.ActiveCell() : std::int16_t{-1};
-    if (active < 0) return turn_.clear(), nullptr;
+    if (!form_.hasFocus()) focused_ = nullptr;
+    const std::int16_t active = form_.ActiveCell();
+    if (active < 0 || !form_.fraScreen[0].Visible() || !form_.hasFocus()) return turn_.clear(), nullptr;
     PictureBox& cell = form_.picMat[active];
     // Include the counters: the next card may equal the one before, in the same place.
     const QString turn = cell.access.name() + form_.picPreview.access.name() + form_.lblCardsLeft.Caption() +

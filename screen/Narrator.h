@@ -5,6 +5,7 @@
 
 #include "platform/controls/Control.h"
 
+class Frame;
 class frmGame;
 
 // Notifies assistive technology of changes in the game window and announces events of the game, whenever the
@@ -21,6 +22,8 @@ public:
     void AddLock();
     // The end of the game.
     void AddEnd();
+    // A screen of the menu: its name and texts.
+    void AddScreen(const Frame& screen);
     // The next lock is due to the time limit: AddTimedLock, AddLock or AddEnd, whichever comes first, also
     // says where the card went, unless it completed a line or was an eraser.
     void ExpectTimedLock() { timedLock_ = true; }

@@ -9,8 +9,13 @@ QString ContentsInWords(const frmGame& form, std::int16_t cell) {
     QString locked =
         form.IsOccupied(cell) ? CardInWords(form.Game().CardAt(cell).Number) : QStringLiteral("empty");
     if (!form.IsActive(cell)) return locked;
-    const QString active = CardInWords(form.Game().CurrentCard()) + QStringLiteral(", active card");
-    return form.IsOccupied(cell) ? active + QStringLiteral(", shaded, over ") + locked : active;
+    const QString active = CardInWords(form.Game().CurrentCard());
+    if (!form.IsOccupied(cell)) return active + QStringLiteral(", active card");
+    // The next key silences the rest, so what the player does not know yet comes first: a new card, or what a
+    // moved one lies on.
+    return (cell == kStartCell ? QStringLiteral("%1, active card, over %2")
+                               : QStringLiteral("over %2, active card %1"))
+        .arg(active, locked);
 }
 
 }  // namespace

@@ -23,7 +23,11 @@ void HelpControls::ConnectHelp(frmGame& form) {
     QObject::connect(&cmdHelp, &QPushButton::clicked, &form, &frmGame::cmdHelp_Click);
     QObject::connect(&cmdDemo, &QPushButton::clicked, &form, &frmGame::cmdDemo_Click);
 
+    cmdHelp.setAccessibleDescription("Opens the rules of the game");
+    cmdDemo.setAccessibleDescription("Plays a game by itself");
     for (Label& key : lblKey) key.access = {};  // announced with its action
+    lblActiveCard.access = {};
+    lblErasor.access.name = Fixed("Eraser: lock it over a card to remove that card");
     lblHelpText2.access.name = Fixed("Move the card: arrow keys or mouse");
     lblHelpText3.access.name = Fixed("Lock the card: space bar or left mouse button");
     lblHelpText4.access.name = Fixed("Pause and resume: P or right mouse button");

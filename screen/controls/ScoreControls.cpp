@@ -28,16 +28,20 @@ ScoreControls::ScoreControls(QWidget* itsScreen) : scores(itsScreen) {
     DressAsLink(Label4, Links::kHomeText);
 }
 
+QString ScoreControls::RowInWords(int row) const {
+    const QString name = lblName[row].Caption(), score = lblHighScore[row].Caption();
+    const QString place = QStringLiteral("Place %1: ").arg(row + 1);
+    if (score == "0") return place + "empty";
+    return place + (name.isEmpty() ? "no name" : name) + ", score " + score + ", " + lblDate[row].Caption();
+}
+
 void ScoreControls::ConnectScores(frmGame& form) {
     Label4.onClick = [&form] { form.Label4_Click(); };
 
     Label4.access.press = Label4.onClick;
     for (int row = 0; row < lblName.size(); ++row) {
-        lblName[row].access.name = [this, row] {
-            const QString name = lblName[row].Caption();
-            return QStringLiteral("Place %1: %2").arg(row + 1).arg(name.isEmpty() ? "no name" : name);
-        };
-        lblDate[row].access.name = [this, row] { return "Date " + lblDate[row].Caption(); };
-        lblHighScore[row].access.name = [this, row] { return "Score " + lblHighScore[row].Caption(); };
+        lblName[row].access.name = [this, row] { return RowInWords(row); };
+        lblDate[row].access = lblHighScore[row].access = {};
     }
+    for (Label* heading : {&lblCName, &lblCDate, &lblCHighScore}) heading->access = {};
 }

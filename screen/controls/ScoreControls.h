@@ -31,4 +31,8 @@ struct ScoreControls {
 
 protected:
     void ConnectScores(frmGame& form);
+
+private:
+    // "Place 1: Ada, score 9,450, 3/8/2026" or "Place 1: empty". row: 0..3.
+    [[nodiscard]] QString RowInWords(int row) const;
 };

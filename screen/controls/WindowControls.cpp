@@ -41,6 +41,7 @@ void WindowControls::ConnectWindow(frmGame& form) {
     QObject::connect(&cmdPrint, &QPushButton::clicked, &form, &frmGame::cmdPrint_Click);
 
     Image1.access = {QAccessible::PushButton, Fixed("exit"), Image1.onClick};
+    Image1.setAccessibleDescription("Ends the program");
     imgMinimaize.access = {QAccessible::PushButton, Fixed("minimise"), imgMinimaize.onClick};
     imgWebLink.access = {QAccessible::Link, [] { return Links::kHomeText; }, imgWebLink.onClick};
     Label17.access.press = Label17.onClick;
