@@ -28,6 +28,7 @@ void mdlFormFunc::GameOver() {
     form_.prbTime.Value(0);
     form_.DropInput();
     form_.TheNarrator().AddEnd();
+    form_.TheNarrator().Look();  // before the name entry takes the focus
     if (RowForScore(form_.lblScore.Caption())) form_.AskForName();
 }
 

@@ -45,6 +45,10 @@ void Narrator::AddTimedLock() {
                                : QStringLiteral("Time is up."));
 }
 
+void Narrator::AddTimedEraser() {
+    if (std::exchange(timedLock_, false)) Add(QStringLiteral("Time is up."));
+}
+
 void Narrator::AddLock() {
     AddTimedLock();
     if (const std::int32_t points = form_.Game().SerieScore())

@@ -24,14 +24,16 @@ public:
     void AddEnd();
     // A screen of the menu: its name and texts.
     void AddScreen(const Frame& screen);
-    // The next lock is due to the time limit: AddTimedLock, AddLock or AddEnd, whichever comes first, also
-    // says where the card went, unless it completed a line or was an eraser.
+    // The next lock is due to the time limit: AddLock or AddEnd also says so, and where the card went unless
+    // it completed a line. Without either, the card was an eraser.
     void ExpectTimedLock() { timedLock_ = true; }
-    void AddTimedLock();
+    void AddTimedEraser();
     // Announces what is new. Runs by itself.
     void Look();
 
 private:
+    void AddTimedLock();
+
     // A control and its state as last announced.
     struct Told {
         QWidget* control;

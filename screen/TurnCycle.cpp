@@ -106,7 +106,7 @@ void frmGame::Timer1_Timer() {
     GiveBackActiveCell();
     narrator_->ExpectTimedLock();
     Game().PutInRndPlace();
-    narrator_->AddTimedLock();
+    narrator_->AddTimedEraser();
     if (play == Play::On) Game().RndAction(false);
 }
 
