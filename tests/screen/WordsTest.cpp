@@ -138,6 +138,7 @@ TEST_F(Spoken, ASessionReadsLooksAndSoundsAsRecorded) {
     Step("the last card", [&] { Model().CardsUsed(99), LockAt(5); }), Screen();
     Step("scores", [&] { form->txtName.setText("Zoë"), form->cmdOk_Click(); }), Screen();
     Step("erasers", [&] { PlayKinds({7, 37, 38, 16}), Lock(), MoveTo(1), Lock(); }), Screen();
+    Step("a late eraser", [&] { PlayKinds({7, 37, 16}, 3), Lock(), time.Pass(4000ms); });
     const QString path = QStringLiteral(TESSELOR_WORDS);
     if (qEnvironmentVariableIsSet("TESSELOR_ACCEPT")) WriteFile(path, record.toUtf8());
     const QStringList due = QString::fromUtf8(ReadFile(path)).split('\n'), found = record.split('\n');
