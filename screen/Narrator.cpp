@@ -3,6 +3,7 @@
 #include <QAbstractEventDispatcher>
 #include <QLocale>
 
+#include "platform/controls/Announce.h"
 #include "screen/Words.h"
 #include "screen/frmGame.h"
 
@@ -23,14 +24,11 @@ void TellChoice(QWidget* control, QAccessible::Role role) {
 
 }  // namespace
 
-Narrator::Narrator(frmGame& form)
-    : form_(form), spot_(&form, {QStringLiteral("news"), {0, 0, kTwipsPerPixel, kTwipsPerPixel}, {}}) {
-    spot_.setAttribute(Qt::WA_TransparentForMouseEvents);
-    spot_.access = {QAccessible::Notification, [this] { return said_; }};
+Narrator::Narrator(frmGame& form) : form_(form) {
     for (QWidget* control : form.findChildren<QWidget*>())
-        if (const Access* access = AccessOf(control); access && access->name && control != &spot_)
+        if (const Access* access = AccessOf(control); access && access->name)
             told_.push_back({control, *access, {}});
-    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &spot_,
+    QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &form_,
                      [this] { Look(); });
 }
 
@@ -62,8 +60,9 @@ void Narrator::AddEnd() {
 
 void Narrator::AddScreen(const Frame& screen) {
     Add(screen.access.name() + '.');
-    for (const Label* label : screen.findChildren<Label*>())
-        if (label->access.role == QAccessible::StaticText) Add(label->access.name() + '.');
+    for (const QWidget* control : screen.findChildren<QWidget*>())
+        if (const Access* access = AccessOf(control); access && access->role == QAccessible::StaticText)
+            Add(access->name() + '.');
 }
 
 void Narrator::Look() {
@@ -71,7 +70,7 @@ void Narrator::Look() {
     for (Told& told : told_)
         if (told.control->isVisible()) TellChanges(told);
     QWidget* active = NewActiveCell();
-    if (!news_.isEmpty()) Say(std::exchange(news_, {}).join(u' '));
+    if (!news_.isEmpty()) Announce(form_, std::exchange(news_, {}).join(u' '));
     if (active) Tell(active, QAccessible::Focus);
 }
 
@@ -98,10 +97,4 @@ QWidget* Narrator::NewActiveCell() {
     // Screen readers do not read what has the focus already.
     if (std::exchange(focused_, &cell) == &cell) news_ += cell.access.name();
     return &cell;
-}
-
-void Narrator::Say(const QString& sentence) {
-    said_ = sentence;
-    Tell(&spot_, QAccessible::NameChanged);
-    Tell(&spot_, QAccessible::ObjectShow);
 }

@@ -46,7 +46,6 @@ private:
     // The cell of the active card if it or its card is new, else null. It has the focus while the board has
     // the keyboard.
     QWidget* NewActiveCell();
-    void Say(const QString& sentence);
 
     frmGame& form_;
     std::vector<Told> told_;
@@ -54,6 +53,4 @@ private:
     bool timedLock_ = false;
     QString turn_;                      // the active card as last told
     const QWidget* focused_ = nullptr;  // the cell that has the focus
-    Control<QWidget> spot_;             // invisible; its name is the last announcement
-    QString said_;
 };

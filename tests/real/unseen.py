@@ -21,8 +21,10 @@ said = []
 
 # Keeps what gets the keyboard, what is chosen and what is announced.
 def hear(event):
-    kind = event.type.split(":")[2]
-    if event.detail1 and (kind != "showing" or event.source.get_role_name() == "notification"):
+    kind = event.type.split(":")[-1]
+    if kind == "announcement":
+        said.append(event.any_data)
+    elif event.detail1 and (kind != "showing" or event.source.get_role_name() == "notification"):
         said.append(f"{kind} {event.source.get_name()}")
 
 
@@ -69,8 +71,8 @@ os.environ |= {"DBUS_SESSION_BUS_ADDRESS": bus.stdout.readline().strip(), "QT_LI
 Atspi.init()
 Atspi.set_timeout(20_000, 20_000)  # the end of a game takes its time
 listener = Atspi.EventListener.new(hear)
-for event in ("focused", "showing", "checked"):
-    listener.register("object:state-changed:" + event)
+for event in ("state-changed:focused", "state-changed:showing", "state-changed:checked", "announcement"):
+    listener.register("object:" + event)
 desk.play()
 programs = Atspi.get_desktop(0)
 programs.set_cache_mask(Atspi.Cache.NONE)
