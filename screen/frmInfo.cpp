@@ -39,8 +39,8 @@ void DressHeadings(QTextDocument& document) {
     }
 }
 
-// Without a frame on Wayland: some compositors give it no button, others leave it to Qt, whose buttons do more
-// than a dialog can.
+// Without a frame on Wayland: some compositors give it no button, others leave it to Qt, whose buttons do
+// more than a dialog can.
 Qt::WindowFlags Kind() {
     return WindowShape::IsOnWayland() ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Dialog;
 }
