@@ -104,7 +104,7 @@ std::int16_t frmGame::ActiveCell() const {
 }
 
 void frmGame::Form_MouseDown(std::int16_t Button, std::int16_t, float X, float Y) {
-    move_.Press(*this, mapToGlobal(QPointF(X, Y).toPoint()), Button == kLeftButton);
+    move_.Press(*this, mapToGlobal(QPointF(X, Y).toPoint()), Button);
 }
 
 void frmGame::mousePressEvent(QMouseEvent* event) {

@@ -122,7 +122,7 @@ void frmInfo::imgButton_Click() {
 }
 
 void frmInfo::mousePressEvent(QMouseEvent* event) {
-    move_.Press(*this, event->globalPosition().toPoint(), event->button() == Qt::LeftButton);
+    move_.Press(*this, event->globalPosition().toPoint(), ToMouseInput(*event).button);
 }
 
 void frmInfo::mouseMoveEvent(QMouseEvent* event) {

@@ -5,6 +5,20 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "platform/controls/MouseControl.h"
+
+namespace {
+
+// X11 takes over only the left button's drag. GNOME does not end one when the right button is released: the
+// window would stick to the mouse.
+bool IsHandedOver(std::int16_t button) {
+    if (button == kLeftButton) return true;
+    const bool sticks = button == kRightButton && qgetenv("XDG_CURRENT_DESKTOP").contains("GNOME");
+    return WindowShape::IsOnWayland() && !sticks;
+}
+
+}  // namespace
+
 void WindowShape::Apply(QWidget& window) {
     window.setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint |
                           Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
@@ -31,9 +45,9 @@ void WindowShape::KeepOnScreens(QWidget& window) {
     QObject::connect(qApp, &QGuiApplication::screenAdded, &window, watch);
 }
 
-void WindowMove::Press(const QWidget& window, QPoint global, bool leftButton) {
+void WindowMove::Press(const QWidget& window, QPoint global, std::int16_t button) {
     grip_ = global - window.pos();
-    state_ = leftButton || WindowShape::IsOnWayland() ? State::PressedToHandOver : State::Pressed;
+    state_ = IsHandedOver(button) ? State::PressedToHandOver : State::Pressed;
 }
 
 void WindowMove::Move(QWidget& window, QPoint global) {

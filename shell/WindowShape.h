@@ -2,6 +2,7 @@
 
 #include <QPoint>
 #include <QRect>
+#include <cstdint>
 
 class QWidget;
 
@@ -27,13 +28,13 @@ void KeepOnScreens(QWidget& window);
 }  // namespace WindowShape
 
 // Drags a window by its background. The left button hands the drag to the window system if it supports that;
-// otherwise the window follows the mouse. On Wayland, where a program cannot move its window, every button
-// hands it over. The drag starts with the first motion: handing over a mere click could leave the window
-// stuck to the mouse.
+// otherwise the window follows the mouse. On Wayland, where a program cannot move its window, the other
+// buttons hand it over too. The drag starts with the first motion: handing over a mere click could leave the
+// window stuck to the mouse.
 class WindowMove {
 public:
-    // A press at `global`, in screen coordinates. `leftButton`: X11 hands over no other button's drag.
-    void Press(const QWidget& window, QPoint global, bool leftButton);
+    // A press at `global`, in screen coordinates. `button`: kLeftButton and so on.
+    void Press(const QWidget& window, QPoint global, std::int16_t button);
     // The mouse moved with a button held.
     void Move(QWidget& window, QPoint global);
     void Release() { state_ = State::Idle; }

@@ -43,7 +43,7 @@ class Sway:
     def __init__(self, desktop):
         config = desktop.folder / "sway.conf"
         os.environ |= {"QT_QPA_PLATFORM": "wayland", "GDK_BACKEND": "wayland", "QT_SCALE_FACTOR": "1",
-                       "WAYLAND_DISPLAY": "wayland-1", "SWAYSOCK": str(desktop.folder / "sway.sock"),
+                       "XDG_CURRENT_DESKTOP": "sway", "WAYLAND_DISPLAY": "wayland-1", "SWAYSOCK": str(desktop.folder / "sway.sock"),
                        "WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman"}
         config.write_text(f"""
             output * mode {desktop.WIDTH}x{desktop.HEIGHT} scale {desktop.scale} scale_filter nearest
