@@ -43,8 +43,8 @@ class Sway:
     def __init__(self, desktop):
         config = desktop.folder / "sway.conf"
         os.environ |= {"QT_QPA_PLATFORM": "wayland", "GDK_BACKEND": "wayland", "QT_SCALE_FACTOR": "1",
-                       "XDG_CURRENT_DESKTOP": "sway", "WAYLAND_DISPLAY": "wayland-1", "SWAYSOCK": str(desktop.folder / "sway.sock"),
-                       "WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman"}
+                       "WAYLAND_DISPLAY": "wayland-1", "XDG_CURRENT_DESKTOP": "sway", "WLR_BACKENDS": "x11",
+                       "WLR_RENDERER": "pixman", "SWAYSOCK": str(desktop.folder / "sway.sock")}
         config.write_text(f"""
             output * mode {desktop.WIDTH}x{desktop.HEIGHT} scale {desktop.scale} scale_filter nearest
             for_window [title=".*"] floating enable
