@@ -88,7 +88,10 @@ void Narrator::TellChanges(Told& told) {
 QWidget* Narrator::NewActiveCell() {
     if (!form_.hasFocus()) focused_ = nullptr;
     const std::int16_t active = form_.ActiveCell();
-    if (active < 0 || !form_.fraScreen[0].Visible() || !form_.hasFocus()) return turn_.clear(), nullptr;
+    if (active < 0 || !form_.fraScreen[0].Visible() || !form_.hasFocus()) {
+        turn_.clear();
+        return nullptr;
+    }
     PictureBox& cell = form_.picMat[active];
     // Include the counters: the next card may equal the one before, in the same place.
     const QString turn = cell.access.name() + form_.picPreview.access.name() + form_.lblCardsLeft.Caption() +

@@ -9,8 +9,8 @@ class Frame;
 class frmGame;
 
 // Notifies assistive technology of changes in the game window and announces events of the game, whenever the
-// event loop is about to block. Does nothing without a listener. Progress of the time bar is not notified:
-// screen readers would speak its percentages in between, and the one that matters is announced.
+// event loop is about to block. Does nothing without a listener. Steps of the time bar are not notified:
+// screen readers would speak their percentages in between. Its last quarter is announced.
 class Narrator {
 public:
     // `form`: all its controls are described; it must outlive this.
