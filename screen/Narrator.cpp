@@ -97,7 +97,7 @@ QWidget* Narrator::NewActiveCell() {
     const QString turn = cell.access.name() + form_.picPreview.access.name() + form_.lblCardsLeft.Caption() +
                          '/' + form_.lblScore.Caption();
     if (std::exchange(turn_, turn) == turn) return nullptr;
-    // Screen readers do not read what has the focus already.
-    if (std::exchange(focused_, &cell) == &cell) news_ += cell.access.name();
+    // Other screen readers do not read what has the focus already.
+    if (std::exchange(focused_, &cell) == &cell && !kReadersFollowNames) news_ += cell.access.name();
     return &cell;
 }

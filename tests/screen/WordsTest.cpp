@@ -8,7 +8,9 @@
 
 #include <QAbstractEventDispatcher>
 #include <QMetaEnum>
+#include <QRegularExpression>
 
+#include "platform/controls/Announce.h"
 #include "screen/Look.h"
 #include "shell/mdlSound.h"
 #include "tests/support/GameWindow.h"
@@ -146,7 +148,11 @@ TEST_F(Spoken, ASessionReadsLooksAndSoundsAsRecorded) {
     Step("a late eraser", [&] { PlayKinds({7, 37, 16}, 3), Lock(), time.Pass(4000ms); });
     const QString path = QStringLiteral(TESSELOR_WORDS);
     if (qEnvironmentVariableIsSet("TESSELOR_ACCEPT")) WriteFile(path, record.toUtf8());
-    const QStringList due = QString::fromUtf8(ReadFile(path)).split('\n'), found = record.split('\n');
+    const QStringList found = record.split('\n');
+    QStringList due = QString::fromUtf8(ReadFile(path)).split('\n');
+    if (kReadersFollowNames)  // a card where the last one was is not announced as well
+        due.replaceInStrings(QRegularExpression("(; |told: )(Row [^;]*); at \\2"), "\\1at \\2")
+            .replaceInStrings(QRegularExpression("\\. (Row [^;]*); at \\1"), ".; at \\1");
     for (qsizetype line = 0; line < qMax(due.size(), found.size()); ++line)
         ASSERT_EQ(found.value(line).toStdString(), due.value(line).toStdString()) << "line " << line + 1;
 }
