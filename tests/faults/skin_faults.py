@@ -28,13 +28,14 @@ with tempfile.TemporaryDirectory() as root:
     assert install(pathlib.Path(root), "-y", "-e", "trace=%file,%desc") == (0, AFTER)
     count, cases = collections.Counter(), []
     for name, line in re.findall(r"^\d+ +(?!execve)(\w+)(\(.*)$", pathlib.Path(root, "log").read_text(), re.M):
-        count[name] += 1
+        count[name] += name != "read" or root in line  # a sanitizer reads its memory map in a varying number of steps
         cases += [(name, f"{fault}:when={count[name]}") for fault in ("signal=KILL", "error=EIO") if root in line]
 assert count["fsync"], "a power cut could lose the skin"
 outcomes = set()
 for name, fault in cases:
     with tempfile.TemporaryDirectory() as root:
-        status, there = install(pathlib.Path(root), "-e", f"trace={name}", "-e", f"inject={name}:{fault}")
+        only = ["-P", root + "/new"] if name == "read" else []
+        status, there = install(pathlib.Path(root), *only, "-e", f"trace={name}", "-e", f"inject={name}:{fault}")
         arrived, killed = "Art/new" in there, "KILL" in fault
         outcomes.add((arrived, killed))
         assert (status < 0) == killed and (there["Art/new"] if arrived else there == BEFORE), (name, fault, there)
