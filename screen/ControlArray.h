@@ -10,7 +10,7 @@
 struct Spot {
     QWidget* holder;
     TwipsRect place;
-    const char* caption = "";
+    QString caption{};
 };
 
 // The spots of `N` elements in `holder`, row by row in `columns` columns; `first` is that of the first
@@ -50,10 +50,10 @@ private:
     template <std::size_t... I, class... More>
     static std::array<ControlType, N> Build(const char* name, const std::array<Spot, N>& spots,
                                             std::index_sequence<I...>, More... more) {
-        return {ControlType(spots[I].holder,
-                            {QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(I), spots[I].place,
-                             QString::fromLatin1(spots[I].caption)},
-                            more...)...};
+        return {ControlType(
+            spots[I].holder,
+            {QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(I), spots[I].place, spots[I].caption},
+            more...)...};
     }
 
     std::array<ControlType, N> controls_;

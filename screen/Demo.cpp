@@ -2,6 +2,7 @@
 // input runs inside its event processing and can stop it with StopDemo, which is checked before every step;
 // so everything a step uses must live until the demonstration returns.
 
+#include "platform/language/Tesselor.h"
 #include "screen/DemoScript.h"
 #include "screen/Narrator.h"
 #include "screen/frmGame.h"
@@ -116,5 +117,5 @@ void frmGame::cmdPrint_Click() {
     const QByteArray text = recording_.AsText();
     const QString path = world_.folder.Path(QStringLiteral("\\array.txt"));
     if (!text.isEmpty() && !AppendToFile(path, text))
-        world_.dialogs.Tell(this, QStringLiteral("The recording could not be written to %1.").arg(path));
+        world_.dialogs.Tell(this, Tesselor::tr("The recording could not be written to %1.").arg(path));
 }

@@ -16,6 +16,8 @@ struct Size {
 
 constexpr Size SizeOf(Text text) {
     switch (text) {
+        case Text::Caption:
+            return {9, QFont::DemiBold};
         case Text::Small:
             return {11, QFont::Normal};
         case Text::Normal:
@@ -67,6 +69,9 @@ QFont Font(Text text) {
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(size.pixels);
     font.setWeight(size.weight);
+    // Letters that are joined must not be spaced.
+    if (text == Text::Caption && QGuiApplication::isLeftToRight())
+        font.setLetterSpacing(QFont::AbsoluteSpacing, 1.5);
     return font;
 }
 

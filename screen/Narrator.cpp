@@ -1,9 +1,9 @@
 #include "screen/Narrator.h"
 
 #include <QAbstractEventDispatcher>
-#include <QLocale>
 
 #include "platform/controls/Announce.h"
+#include "platform/language/Tesselor.h"
 #include "screen/Words.h"
 #include "screen/frmGame.h"
 
@@ -39,23 +39,24 @@ void Narrator::Add(const QString& news) {
 void Narrator::AddTimedLock() {
     if (!std::exchange(timedLock_, false)) return;
     const std::int16_t cell = form_.Game().PosCurrentCard();
-    Add(form_.IsOccupied(cell) ? QStringLiteral("Time is up: locked in %1.").arg(PlaceInWords(cell))
-                               : QStringLiteral("Time is up."));
+    Add(form_.IsOccupied(cell)
+            ? Tesselor::tr("Time is up: locked in row %1, column %2.").arg(RowOf(cell)).arg(ColumnOf(cell))
+            : Tesselor::tr("Time is up."));
 }
 
 void Narrator::AddTimedEraser() {
-    if (std::exchange(timedLock_, false)) Add(QStringLiteral("Time is up."));
+    if (std::exchange(timedLock_, false)) Add(Tesselor::tr("Time is up."));
 }
 
 void Narrator::AddLock() {
     AddTimedLock();
     if (const std::int32_t points = form_.Game().SerieScore())
-        Add(QStringLiteral("Line scored: %1 points.").arg(QLocale().toString(points)));
+        Add(Tesselor::tr("Line scored: %Ln point(s).", nullptr, points));
 }
 
 void Narrator::AddEnd() {
     AddTimedLock();
-    Add(QStringLiteral("Game over. %1.").arg(form_.lblScore.access.name()));
+    Add(Tesselor::tr("Game over. %1.").arg(form_.lblScore.access.name()));
 }
 
 void Narrator::AddScreen(const Frame& screen) {

@@ -1,5 +1,6 @@
 // The skins: which files fill the slots, the choice of one, and the picture set a game is played with.
 
+#include "platform/language/Tesselor.h"
 #include "screen/Look.h"
 #include "screen/frmGame.h"
 #include "screen/storage/SkinFiles.h"
@@ -106,7 +107,7 @@ void frmGame::picSkin_OLEDragDrop(std::int16_t& Index, const QString& Data, std:
 QString frmGame::Install(const PictureSheet& sheet, const QString& dropped, const QString& folder,
                          std::int16_t slot) {
     if (slot < SkinCount &&
-        !world_.dialogs.Ask(this, QStringLiteral("Are You Sure You want To Replace This Skin !")))
+        !world_.dialogs.Ask(this, Tesselor::tr("Are You Sure You want To Replace This Skin !")))
         return {};
     const QString replaced = slot < SkinCount ? skinFile[slot] : QString();
     const InstalledSkin installed = InstallSkin(sheet, dropped, folder, replaced);
@@ -162,6 +163,6 @@ QString frmGame::LoadSkin() {
     const QString name = QString::fromStdString(Game().SetSkinPicture());
     const auto load = [this](const QString& path, QString& why) { return LoadSheet(path, why); };
     if (!name.isEmpty()) return PicClip1.Load(world_.folder.Path(kSkinFolder + name), load);
-    return QStringLiteral("No skins were found. A skin is a picture of 3 x 13 cards; put one in %1.")
+    return Tesselor::tr("No skins were found. A skin is a picture of 3 x 13 cards; put one in %1.")
         .arg(world_.folder.Path(kSkinFolder));
 }

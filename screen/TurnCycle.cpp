@@ -4,6 +4,7 @@
 
 #include "model/Levels.h"
 #include "model/SaturatedSum.h"
+#include "platform/language/Tesselor.h"
 #include "screen/Narrator.h"
 #include "screen/frmGame.h"
 #include "shell/mdlSound.h"
@@ -80,7 +81,7 @@ void frmGame::Pause() {
     Timer2.Enabled(false);
     prbTime.Value(0);
     formFunc_.CoverBoard();
-    narrator_->Add(QStringLiteral("Paused."));
+    narrator_->Add(Tesselor::tr("Paused."));
 }
 
 void frmGame::Resume() {
@@ -98,7 +99,7 @@ void frmGame::Resume() {
         Game().PlaySoundFromFile("\\wav\\space.wav");
     }
     formFunc_.ShowActiveCard();
-    narrator_->Add(QStringLiteral("Game resumed."));
+    narrator_->Add(Tesselor::tr("Game resumed."));
 }
 
 void frmGame::Timer1_Timer() {
@@ -121,7 +122,7 @@ void frmGame::Timer2_Timer() {
     const std::int32_t before = prbTime.Value(), step = BarStep(Game().SetLevel());
     if (step > 0) prbTime.Value(before + step);
     if (before < kRunningOut && prbTime.Value() >= kRunningOut)
-        narrator_->Add(QStringLiteral("A quarter of the time bar is left."));
+        narrator_->Add(Tesselor::tr("A quarter of the time bar is left."));
     if (prbTime.Value() == prbTime.Bar().Max()) Timer2.Rest();
 }
 

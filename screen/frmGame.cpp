@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QTimer>
 
+#include "platform/language/Tesselor.h"
 #include "screen/Look.h"
 #include "screen/Narrator.h"
 #include "screen/Words.h"
@@ -20,7 +21,8 @@ frmGame::frmGame(World world)
       MenuControls(this, &fraScreen[2]),
       NameControls(this),
       world_(std::move(world)) {
-    access = {QAccessible::Window, Fixed("Tesselor")};  // before Qt tells of the window's title
+    access = {QAccessible::Window,
+              Fixed(QStringLiteral("Tesselor"))};  // before Qt tells of the window's title
     setObjectName(QStringLiteral("frmGame"));
     setWindowTitle(QStringLiteral("Tesselor"));
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -48,8 +50,8 @@ void frmGame::Form_Load() {
     lblCaption[2].ForeColor(Look::kLitCaption);
     CurrentMenu = 2;
     lblHelpText1.Caption(
-        QStringLiteral("Line up cards by : color, shape, quantity or series \r\n"
-                       "1,2,3,4. For high score make multiple combinations"));
+        Tesselor::tr("Line up cards by : color, shape, quantity or series \r\n"
+                     "1,2,3,4. For high score make multiple combinations"));
     game_ = std::make_unique<clsCard>(formFunc_, world_.random);
     SetPlay(Play::Off);  // until "play" there is nothing to move
     FillSkinSlots();

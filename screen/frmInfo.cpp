@@ -5,6 +5,8 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
+#include "platform/language/Language.h"
+#include "platform/language/Tesselor.h"
 #include "screen/Look.h"
 #include "shell/mdlSound.h"
 
@@ -16,6 +18,16 @@ constexpr qreal kPadding = 9;  // between the text and the edge of its sheet
 // The most that is shown of the file: far more than the rules, and quick to lay out.
 constexpr qint64 kMostBytes = qint64{512} * 1024;
 
+// The player's own text, else the translation that comes with the program, else the English text.
+QString RulesFile(const ProgramFolder& folder) {
+    const QString english = folder.Path(QStringLiteral("\\Res\\Tesselor rules.txt"));
+    const QString translated =
+        folder.Path(QStringLiteral("\\Res\\Tesselor rules.%1.txt").arg(ChosenLanguage()));
+    const bool isOwn =
+        QFileInfo::exists(english) && QFileInfo(english).path() != QFileInfo(translated).path();
+    return QFileInfo::exists(translated) && !isOwn ? translated : english;
+}
+
 QString RulesText(const QString& path) {
     // Regular files only: opening a FIFO would block.
     QFile file(path);
@@ -26,13 +38,21 @@ QString RulesText(const QString& path) {
     return text;
 }
 
-// Lines in capitals are headings.
+// Headings are lines in capitals, and in scripts that have none the lines behind two empty ones.
+bool IsHeading(const QTextBlock& block) {
+    const QString line = block.text();
+    if (line != line.toLower()) return line == line.toUpper();
+    const QTextBlock above = block.previous();
+    const bool startsPart = !above.isValid() || (above.text().isEmpty() && above.previous().isValid() &&
+                                                 above.previous().text().isEmpty());
+    return startsPart && line == line.toUpper() && !line.isEmpty();
+}
+
 void DressHeadings(QTextDocument& document) {
     QTextCharFormat heading;
     heading.setFontWeight(QFont::DemiBold);
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        const QString line = block.text();
-        if (line.isEmpty() || line != line.toUpper() || line == line.toLower()) continue;
+        if (!IsHeading(block)) continue;
         QTextCursor cursor(block);
         cursor.select(QTextCursor::BlockUnderCursor);
         cursor.mergeCharFormat(heading);
@@ -50,10 +70,10 @@ Qt::WindowFlags Kind() {
 frmInfo::frmInfo(QWidget* owner, const ProgramFolder& folder)
     : QWidget(owner, Kind()),
       shpArea(this, {QStringLiteral("shpArea"), {1830, 5280, 1095, 375}, {}}),
-      lblCaption(this, {QStringLiteral("lblCaption"), {1830, 5295, 1095, 345}, QStringLiteral("OK")}),
+      lblCaption(this, {QStringLiteral("lblCaption"), {1830, 5295, 1095, 345}, Tesselor::tr("OK")}),
       imgButton(this, {QStringLiteral("imgButton"), {1830, 5280, 1095, 375}, {}}) {
     // Before Qt tells of the window's title.
-    access = {QAccessible::Dialog, [] { return QStringLiteral("The rules of the game"); }};
+    access = {QAccessible::Dialog, [] { return Tesselor::tr("The rules of the game"); }};
     setObjectName(QStringLiteral("frmInfo"));
     setWindowTitle(QStringLiteral("Tesselor"));
     setFixedSize(kWindow.InPixels().size());
@@ -77,7 +97,7 @@ frmInfo::frmInfo(QWidget* owner, const ProgramFolder& folder)
 }
 
 void frmInfo::Form_Load(const ProgramFolder& folder) {
-    Text1.setPlainText(RulesText(folder.Path(QStringLiteral("\\Res\\Tesselor rules.txt"))));
+    Text1.setPlainText(RulesText(RulesFile(folder)));
     DressHeadings(*Text1.document());
 }
 

@@ -11,6 +11,7 @@
 #include "platform/desktop/Shell.h"
 #include "platform/desktop/Time.h"
 #include "platform/files/StringStore.h"
+#include "platform/language/Language.h"
 #include "platform/pictures/PixelFile.h"
 #include "platform/sound/SoundFiles.h"
 #include "platform/sound/SoundPlayer.h"
@@ -46,6 +47,8 @@ void ChooseLocale() {
 int mdlMain::Main() {
     SystemRandom random;
     ChooseLocale();
+    ChooseLanguage();
+    QGuiApplication::setLayoutDirection(QLocale(ChosenLanguage()).textDirection());
     QImageReader::setAllocationLimit(kPictureMegabytes);
     Look::Apply(*qApp);
     InstallAccess();

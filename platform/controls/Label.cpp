@@ -2,6 +2,12 @@
 
 #include <QPainter>
 
+namespace {
+
+constexpr int kSmallestPixels = 9;
+
+}  // namespace
+
 Label::Label(QWidget* parent, const Placement& placement)
     : MouseControl(parent, placement), caption_(placement.caption) {
     access = {QAccessible::StaticText, [this] { return Caption().simplified(); }};
@@ -24,8 +30,24 @@ void Label::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.setFont(ShownFont());
     painter.setPen(ToQColor(colour_));
-    const int flags = static_cast<int>(alignment_) | (wrap_ ? Qt::TextWordWrap : 0);
-    painter.drawText(rect().translated(0, IsPressed() ? 1 : 0), flags, Shown().remove(u'\r'));
+    painter.drawText(rect().translated(0, IsPressed() ? 1 : 0), Flags(), Shown().remove(u'\r'));
+}
+
+int Label::Flags() const {
+    return static_cast<int>(alignment_) | (wrap_ ? Qt::TextWordWrap : 0);
+}
+
+bool Label::Fits(const QFont& font) const {
+    const QRect needed = QFontMetrics(font).boundingRect(rect(), Flags(), caption_.trimmed().remove(u'\r'));
+    return needed.width() <= width() && (!wrap_ || needed.height() <= height());
+}
+
+QFont Label::ShownFont() const {
+    QFont fitted = font();
+    if (!Fits(fitted) && fitted.letterSpacingType() == QFont::AbsoluteSpacing)
+        fitted.setLetterSpacing(QFont::AbsoluteSpacing, 0);
+    while (fitted.pixelSize() > kSmallestPixels && !Fits(fitted)) fitted.setPixelSize(fitted.pixelSize() - 1);
+    return fitted;
 }
 
 void Label::Underline(bool underline) {

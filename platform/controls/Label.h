@@ -21,13 +21,20 @@ public:
     // The text as painted.
     [[nodiscard]] virtual QString Shown() const { return caption_; }
 
+    // Whether the caption fits the control in letters that can be read.
+    [[nodiscard]] bool Fits() const { return Fits(ShownFont()); }
+
 protected:
+    // The font, in smaller letters when the caption would not fit otherwise, as far as it stays legible.
+    [[nodiscard]] QFont ShownFont() const;
+
     void paintEvent(QPaintEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:
-    [[nodiscard]] virtual QFont ShownFont() const { return font(); }
+    [[nodiscard]] virtual bool Fits(const QFont& font) const;
+    [[nodiscard]] int Flags() const;
     void Underline(bool underline);
 
     QString caption_;

@@ -9,8 +9,6 @@ namespace {
 
 constexpr qsizetype kMostUnits = 200;  // laid out at most; damaged text can have any length
 
-constexpr int kSmallestPixels = 9;
-
 bool IsControl(QChar unit) {
     return unit.category() == QChar::Other_Control || unit == QChar::LineSeparator ||
            unit == QChar::ParagraphSeparator;
@@ -29,12 +27,8 @@ QString LineLabel::Elided(const QFont& font) const {
     return QFontMetrics(font).elidedText(Line(), Qt::ElideRight, width());
 }
 
-// Shrink the font before eliding, as far as it stays legible.
-QFont LineLabel::ShownFont() const {
-    QFont fitted = font();
-    while (fitted.pixelSize() > kSmallestPixels && Elided(fitted) != Line())
-        fitted.setPixelSize(fitted.pixelSize() - 1);
-    return fitted;
+bool LineLabel::Fits(const QFont& font) const {
+    return Elided(font) == Line();
 }
 
 QString LineLabel::Shown() const {

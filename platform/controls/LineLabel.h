@@ -16,5 +16,5 @@ protected:
 private:
     [[nodiscard]] QString Line() const;
     [[nodiscard]] QString Elided(const QFont& font) const;
-    [[nodiscard]] QFont ShownFont() const override;
+    [[nodiscard]] bool Fits(const QFont& font) const override;
 };

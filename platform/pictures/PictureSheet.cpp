@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <new>
 
+#include "platform/language/Tesselor.h"
+
 namespace {
 
 // Edges that fall between two pixels are rounded, so the cells cover the sheet without a gap or an overlap.
@@ -48,13 +50,13 @@ std::shared_ptr<PictureSheet> PictureSheet::Load(const QString& path, QString& w
     if (!why.isEmpty()) return nullptr;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        why = AboutFile(path, QStringLiteral("cannot be opened."));
+        why = AboutFile(path, Tesselor::tr("\"%1\" cannot be opened."));
         return nullptr;
     }
     try {
         return FromBytes(file.read(qMin(file.size(), kMostSheetBytes)), path, why);
     } catch (const std::bad_alloc&) {
-        why = AboutFile(path, QStringLiteral("needs more memory than is available."));
+        why = AboutFile(path, Tesselor::tr("\"%1\" needs more memory than is available."));
         return nullptr;
     }
 }

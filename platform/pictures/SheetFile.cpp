@@ -5,6 +5,7 @@
 #include <QImageReader>
 #include <algorithm>
 
+#include "platform/language/Tesselor.h"
 #include "platform/pictures/WholePicture.h"
 
 namespace {
@@ -14,13 +15,14 @@ namespace {
 constexpr qint64 kStartBytes = qint64{4} * 1024;
 
 QString WhyNotThisSize(const QSize& size) {
-    if (!size.isValid()) return QStringLiteral("is not a picture the game can read.");
-    const QString pixels = QStringLiteral("is %1 x %2 pixels; ").arg(size.width()).arg(size.height());
-    if (size.width() < kSheetColumns || size.height() < kSheetRows)
-        return pixels + QStringLiteral("a skin has 3 x 13 cells, so it has at least 3 x 13 pixels.");
-    if (qint64{size.width()} * size.height() > kMostSheetPixels)
-        return pixels + QStringLiteral("a skin has at most 16 million pixels.");
-    return {};
+    if (!size.isValid()) return Tesselor::tr("\"%1\" is not a picture the game can read.");
+    const bool isSmall = size.width() < kSheetColumns || size.height() < kSheetRows;
+    if (!isSmall && qint64{size.width()} * size.height() <= kMostSheetPixels) return {};
+    return (isSmall
+                ? Tesselor::tr(
+                      "\"%1\" is %2 x %3 pixels; a skin has 3 x 13 cells, so it has at least 3 x 13 pixels.")
+                : Tesselor::tr("\"%1\" is %2 x %3 pixels; a skin has at most 16 million pixels."))
+        .arg(QStringLiteral("%1"), QString::number(size.width()), QString::number(size.height()));
 }
 
 // Whether the loader reads `format` as pixels. A drawing may name other files, and nothing bounds the time
@@ -66,16 +68,16 @@ private:
 }  // namespace
 
 QString AboutFile(const QString& path, const QString& what) {
-    return QStringLiteral("\"%1\" %2").arg(QFileInfo(path).fileName(), what);
+    return what.arg(QFileInfo(path).fileName());
 }
 
 QString WhyNotASheet(const QString& path) {
     const QFileInfo file(path);
-    if (!file.isFile()) return AboutFile(path, QStringLiteral("was not found."));
+    if (!file.isFile()) return AboutFile(path, Tesselor::tr("\"%1\" was not found."));
     if (file.size() > kMostSheetBytes)
-        return AboutFile(path, QStringLiteral("is larger than 64 megabytes, the most a skin may have."));
+        return AboutFile(path, Tesselor::tr("\"%1\" is larger than 64 megabytes, the most a skin may have."));
     QFile opened(path);
-    if (!opened.open(QIODevice::ReadOnly)) return AboutFile(path, QStringLiteral("cannot be opened."));
+    if (!opened.open(QIODevice::ReadOnly)) return AboutFile(path, Tesselor::tr("\"%1\" cannot be opened."));
     QByteArray start = opened.read(kStartBytes);
     QBuffer buffer(&start);
     QImageReader reader(&buffer);
@@ -86,7 +88,7 @@ QString WhyNotASheet(const QString& path) {
 }
 
 QString WhyTooSlow(const QString& path) {
-    return AboutFile(path, QStringLiteral("takes too long to read."));
+    return AboutFile(path, Tesselor::tr("\"%1\" takes too long to read."));
 }
 
 QImage Allocated(QImage image) {
@@ -100,7 +102,7 @@ QImage DecodeSheet(const QByteArray& bytes, QDeadlineTimer end, QString& why) {
     const Head head(reader);
     why = WhyNotThisSize(head.size);
     if (!why.isEmpty()) return {};
-    why = QStringLiteral("is damaged or incomplete.");
+    why = Tesselor::tr("\"%1\" is damaged or incomplete.");
     if (IsCutShort(head.format, bytes)) return {};
     // Allocate first: QImageReader does not distinguish out of memory from a damaged picture.
     (void)Allocated(QImage(head.size, QImage::Format_ARGB32));

@@ -18,7 +18,7 @@ inline constexpr std::chrono::milliseconds kMostDecoding{5000};
 // The same while the window waits, because it has come to a screen of another scale.
 inline constexpr std::chrono::milliseconds kMostRedrawing{1000};
 
-// A sentence for the player about the file `path`: its name in quotes and `what`.
+// A sentence for the player about the file `path`: `what`, in which %1 stands for its name.
 [[nodiscard]] QString AboutFile(const QString& path, const QString& what);
 
 // What the player is told when decoding the file `path` took longer.
@@ -31,6 +31,6 @@ inline constexpr std::chrono::milliseconds kMostRedrawing{1000};
 // `image`, unless there was no memory for it: then throws std::bad_alloc.
 [[nodiscard]] QImage Allocated(QImage image);
 
-// The picture set in the file's `bytes`. Null when it cannot be decoded before `end`; `why` then ends the
-// sentence that says so, and is empty otherwise. Throws std::bad_alloc. Any thread.
+// The picture set in the file's `bytes`. Null when it cannot be decoded before `end`; `why` then says so
+// for AboutFile, and is empty otherwise. Throws std::bad_alloc. Any thread.
 [[nodiscard]] QImage DecodeSheet(const QByteArray& bytes, QDeadlineTimer end, QString& why);

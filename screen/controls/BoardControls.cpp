@@ -1,5 +1,6 @@
 #include "screen/controls/BoardControls.h"
 
+#include "platform/language/Tesselor.h"
 #include "screen/Look.h"
 #include "screen/Words.h"
 #include "screen/frmGame.h"
@@ -18,9 +19,10 @@ void BoardControls::ConnectBoard(frmGame& form) {
     OnEach(picMat, &PictureBox::onMouseMove, form, &frmGame::picMat_MouseMove);
 
     fraScreen[0].access = {QAccessible::List, [&form] { return BoardInWords(form); }};
-    constexpr const char* kScreens[] = {"levels and skins", "help", "high scores"};
+    const QString screens[] = {Tesselor::tr("levels and skins"), Tesselor::tr("help"),
+                               Tesselor::tr("high scores")};
     for (const int screen : {1, 2, 3})
-        fraScreen[screen].access = {QAccessible::Grouping, Fixed(kScreens[screen - 1])};
+        fraScreen[screen].access = {QAccessible::Grouping, Fixed(screens[screen - 1])};
     for (std::int16_t cell = 0; cell < picMat.size(); ++cell) {
         // A press released beside the cells, or between them, is cancelled.
         picMat[cell].onMouseUp = [this, &form, cell](const MouseInput& in) {

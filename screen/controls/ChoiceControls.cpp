@@ -1,5 +1,6 @@
 #include "screen/controls/ChoiceControls.h"
 
+#include "platform/language/Tesselor.h"
 #include "screen/Links.h"
 #include "screen/Words.h"
 #include "screen/controls/Dressing.h"
@@ -7,9 +8,10 @@
 
 ChoiceControls::ChoiceControls(QWidget* itsScreen) : choices(itsScreen) {
     using Look::Text;
-    constexpr const char* kLevelNames[] = {"practice", "junior", "senior", "expert", "master"};
+    const QString levelNames[] = {Tesselor::tr("practice"), Tesselor::tr("junior"), Tesselor::tr("senior"),
+                                  Tesselor::tr("expert"), Tesselor::tr("master")};
     for (std::int16_t level = 0; level < lblClass.size(); ++level) {
-        lblClass[level].Caption(kLevelNames[level]);
+        lblClass[level].Caption(levelNames[level]);
         Dress(lblClass[level], Text::Heading, Look::kLevel, kLeft);
         MakeClickable(lblClass[level]);
     }
@@ -53,5 +55,5 @@ void ChoiceControls::ConnectChoices(frmGame& form) {
                                 [&form, slot] { form.picSkin_MouseUp(slot, kLeftButton, 0, 0, 0); },
                                 [&form, slot] { return slot < form.SkinCount && form.CurrentSkin == slot; }};
     }
-    lblSkinName.access.name = [this] { return "Skin " + lblSkinName.Caption(); };
+    lblSkinName.access.name = [this] { return Tesselor::tr("Skin %1").arg(lblSkinName.Caption()); };
 }

@@ -6,7 +6,7 @@
 // The looks shared by controls of several screens.
 
 inline constexpr Qt::Alignment kLeft = Qt::AlignLeft | Qt::AlignVCenter;
-inline constexpr Qt::Alignment kRight = Qt::AlignRight | Qt::AlignVCenter;
+inline constexpr Qt::Alignment kRight = Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter;  // figures
 
 // Styles a text.
 void Dress(Label& label, Look::Text text, Colour colour = Look::kLevel,

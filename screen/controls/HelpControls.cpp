@@ -1,5 +1,6 @@
 #include "screen/controls/HelpControls.h"
 
+#include "platform/language/Tesselor.h"
 #include "screen/Words.h"
 #include "screen/controls/Dressing.h"
 #include "screen/frmGame.h"
@@ -23,12 +24,12 @@ void HelpControls::ConnectHelp(frmGame& form) {
     QObject::connect(&cmdHelp, &QPushButton::clicked, &form, &frmGame::cmdHelp_Click);
     QObject::connect(&cmdDemo, &QPushButton::clicked, &form, &frmGame::cmdDemo_Click);
 
-    cmdHelp.setAccessibleDescription("Opens the rules of the game");
-    cmdDemo.setAccessibleDescription("Plays a game by itself");
+    cmdHelp.setAccessibleDescription(Tesselor::tr("Opens the rules of the game"));
+    cmdDemo.setAccessibleDescription(Tesselor::tr("Plays a game by itself"));
     for (Label& key : lblKey) key.access = {};  // announced with its action
     lblActiveCard.access = {};
-    lblErasor.access.name = Fixed("Eraser: lock it over a card to remove that card");
-    lblHelpText2.access.name = Fixed("Move the card: arrow keys or mouse");
-    lblHelpText3.access.name = Fixed("Lock the card: space bar or left mouse button");
-    lblHelpText4.access.name = Fixed("Pause and resume: P or right mouse button");
+    lblErasor.access.name = Fixed(Tesselor::tr("Eraser: lock it over a card to remove that card"));
+    lblHelpText2.access.name = Fixed(Tesselor::tr("Move the card: arrow keys or mouse"));
+    lblHelpText3.access.name = Fixed(Tesselor::tr("Lock the card: space bar or left mouse button"));
+    lblHelpText4.access.name = Fixed(Tesselor::tr("Pause and resume: P or right mouse button"));
 }

@@ -1,5 +1,6 @@
 #include "screen/controls/ScoreControls.h"
 
+#include "platform/language/Tesselor.h"
 #include "screen/Links.h"
 #include "screen/controls/Dressing.h"
 #include "screen/frmGame.h"
@@ -30,9 +31,10 @@ ScoreControls::ScoreControls(QWidget* itsScreen) : scores(itsScreen) {
 
 QString ScoreControls::RowInWords(int row) const {
     const QString name = lblName[row].Caption(), score = lblHighScore[row].Caption();
-    const QString place = QStringLiteral("Place %1: ").arg(row + 1);
-    if (score == "0") return place + "empty";
-    return place + (name.isEmpty() ? "no name" : name) + ", score " + score + ", " + lblDate[row].Caption();
+    if (score == "0") return Tesselor::tr("Place %1: empty").arg(row + 1);
+    return Tesselor::tr("Place %1: %2, score %3, %4", "place, player, score, date")
+        .arg(row + 1)
+        .arg(name.isEmpty() ? Tesselor::tr("no name") : name, score, lblDate[row].Caption());
 }
 
 void ScoreControls::ConnectScores(frmGame& form) {

@@ -1,5 +1,6 @@
 #include "screen/controls/WindowControls.h"
 
+#include "platform/language/Tesselor.h"
 #include "screen/Links.h"
 #include "screen/Words.h"
 #include "screen/controls/Dressing.h"
@@ -11,7 +12,7 @@ WindowControls::WindowControls(QWidget* itsWindow) : window(itsWindow) {
     Background.setAttribute(Qt::WA_TransparentForMouseEvents);
     Image1.Picture(WindowArt("exit"));
     Image1.HoverPicture(WindowArt("exit-hover"));
-    Image1.setToolTip("Exit ");
+    Image1.setToolTip(Tesselor::tr("Exit "));
     imgMinimaize.Picture(WindowArt("minimise"));
     imgMinimaize.HoverPicture(WindowArt("minimise-hover"));
     for (Image* image : {&Image1, &imgMinimaize}) image->ShowsPress(true);
@@ -21,6 +22,8 @@ WindowControls::WindowControls(QWidget* itsWindow) : window(itsWindow) {
     Image2.Picture(WindowArt("menubar"));
     Dress(Label16, Text::Small);
     DressAsLink(Label17, Links::kProductText);
+    Dress(lblCardsCaption, Text::Caption, Look::kCaption);
+    Dress(lblScoreCaption, Text::Caption, Look::kCaption, kRight);
     Dress(lblScore, Text::Number, Look::kNumber, kRight);
     Dress(lblCardsLeft, Text::Number, Look::kNumber);
     Picture4.BackColor(Look::kTray);
@@ -40,18 +43,19 @@ void WindowControls::ConnectWindow(frmGame& form) {
     Label17.onClick = [&form] { form.Label17_Click(); };
     QObject::connect(&cmdPrint, &QPushButton::clicked, &form, &frmGame::cmdPrint_Click);
 
-    Image1.access = {QAccessible::PushButton, Fixed("exit"), Image1.onClick};
-    Image1.setAccessibleDescription("Ends the program");
-    imgMinimaize.access = {QAccessible::PushButton, Fixed("minimise"), imgMinimaize.onClick};
+    Image1.access = {QAccessible::PushButton, Fixed(Tesselor::tr("exit")), Image1.onClick};
+    Image1.setAccessibleDescription(Tesselor::tr("Ends the program"));
+    imgMinimaize.access = {QAccessible::PushButton, Fixed(Tesselor::tr("minimise")), imgMinimaize.onClick};
     imgWebLink.access = {QAccessible::Link, [] { return Links::kHomeText; }, imgWebLink.onClick};
     Label17.access.press = Label17.onClick;
     picPreview.access = {QAccessible::Graphic, [&form] { return NextCardInWords(form); }};
-    lblNextCard.access = {};
-    lblScore.access.name = [this] { return "Score " + lblScore.Caption(); };
+    // Announced with what they belong to.
+    for (Label* label : {&lblNextCard, &lblCardsCaption, &lblScoreCaption}) label->access = {};
+    lblScore.access.name = [this] { return Tesselor::tr("Score %1").arg(lblScore.Caption()); };
     lblCardsLeft.access.name = [this] {
-        const QString cards = lblCardsLeft.Caption();
-        return cards + (cards == "1" ? " card left" : " cards left");
+        return Tesselor::tr("%n card(s) left", nullptr, lblCardsLeft.Caption().toInt());
     };
-    prbTime.access = {
-        QAccessible::ProgressBar, Fixed("Time used"), {}, {}, [this] { return int(prbTime.Value()); }};
+    prbTime.access = {QAccessible::ProgressBar, Fixed(Tesselor::tr("Time used")), {}, {}, [this] {
+                          return int(prbTime.Value());
+                      }};
 }

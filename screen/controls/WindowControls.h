@@ -7,6 +7,7 @@
 #include "platform/controls/LineLabel.h"
 #include "platform/controls/PictureBox.h"
 #include "platform/controls/Shape.h"
+#include "platform/language/Tesselor.h"
 #include "screen/TimeBar.h"
 
 class frmGame;
@@ -33,8 +34,10 @@ struct WindowControls {
     Label Label12{window, {"Label12", {8940, 2100, 900, 240}, "score"}};
     Image Image3{window, {"Image3", {7140, 2400, 480, 480}, ""}};
     Image Image4{window, {"Image4", {7740, 2400, 480, 480}, ""}};
-    Label Label16{window, {"Label16", {2520, 195, 2670, 255}, "Come and compete online at "}};
+    Label Label16{window, {"Label16", {2520, 195, 2670, 255}, Tesselor::tr("Come and compete online at ")}};
     Label Label17{window, {"Label17", {2520, 450, 2670, 255}, ""}};
+    Label lblCardsCaption{window, {"lblCardsCaption", {2445, 5235, 1200, 195}, Tesselor::tr("CARDS LEFT")}};
+    Label lblScoreCaption{window, {"lblScoreCaption", {4222, 5235, 1560, 195}, Tesselor::tr("SCORE")}};
     Label lblCardsLeft{window, {"lblCardsLeft", {2640, 5400, 750, 765}, "0"}};
     LineLabel lblScore{window, {"lblScore", {3540, 5580, 2190, 420}, "0"}};
     Image Image1{window, {"Image1", {5640, 30, 255, 285}, ""}};
@@ -46,7 +49,7 @@ struct WindowControls {
     TimeBar prbTime{window, {"prbTime", {270, 915, 195, 3945}, ""}, TimeBarDesign()};
     PictureBox Picture4{window, {"Picture4", {750, 900, 3945, 3945}, ""}};
     PictureBox picPreview{window, {"picPreview", {765, 4930, 960, 960}, ""}, 2};
-    Label lblNextCard{&picPreview, {"lblNextCard", {0, 330, 900, 240}, "next card"}};
+    Label lblNextCard{&picPreview, {"lblNextCard", {0, 330, 900, 240}, Tesselor::tr("next card")}};
     PictureBox picTemp{window, {"picTemp", {7140, 3000, 960, 960}, ""}, 2};
     CommandButton cmdPrint{window, {"cmdPrint", {7140, 7200, 900, 345}, "Print"}};
 

@@ -6,6 +6,7 @@
 #include <QTemporaryFile>
 #include <cstdio>
 
+#include "platform/language/Tesselor.h"
 #include "platform/pictures/PictureSheet.h"
 
 namespace {
@@ -65,7 +66,7 @@ InstalledSkin InstallSkin(const PictureSheet& sheet, const QString& source, cons
     RemoveLeftovers(art);
     const QString name = FreeName(art, VisibleName(source), replaced);
     if (!Put(art, name, sheet.Bytes()))
-        return {{}, QStringLiteral("\"%1\" could not be written into %2.").arg(name, folder)};
+        return {{}, Tesselor::tr("\"%1\" could not be written into %2.", "file, folder").arg(name, folder)};
     // The same name in another case is another file here, and a slot must not have two.
     if (!replaced.isEmpty() && replaced != name) QFile::remove(art.filePath(replaced));
     QFile::remove(source);

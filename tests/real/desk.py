@@ -29,7 +29,7 @@ class Desk(Desktop):
         (self.home / "Art").mkdir(parents=True)
         write_skin(self.home / "Art/cards.ppm")
         write_skin(self.home / "Art/other.ppm", tint=1)
-        os.environ |= {"DBUS_SESSION_BUS_ADDRESS": "disabled:", "TESSELOR_HOME": str(self.home)}
+        os.environ |= {"DBUS_SESSION_BUS_ADDRESS": "disabled:", "LANGUAGE": "en", "TESSELOR_HOME": str(self.home)}
 
     def play(self):
         super().play(self.program)
