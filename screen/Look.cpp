@@ -17,7 +17,7 @@ struct Size {
 constexpr Size SizeOf(Text text) {
     switch (text) {
         case Text::Caption:
-            return {9, QFont::DemiBold};
+            return {9, QFont::Bold};
         case Text::Small:
             return {11, QFont::Normal};
         case Text::Normal:

@@ -6,6 +6,8 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/language/Language.h"
+#include "platform/language/Tesselor.h"
 #include "shell/CommandLine.h"
 #include "shell/WindowShape.h"
 #include "shell/mdlMain.h"
@@ -20,17 +22,22 @@ const char* WaylandPackage() {
     return others.contains(QSysInfo::productType()) ? "qt6-qtwayland" : "qt6-wayland";
 }
 
-// Why there is no window. `message`: Qt's, which ends in advice to reinstall and the plugins it has found.
+// Why there is no window. `message`: Qt's, which lists the plugins it has found.
 QString WhyNoWindow(const QString& message) {
-    if (qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && !message.contains(QLatin1String("wayland")))
-        return QStringLiteral("Qt's plugin for Wayland is missing; it is in the package ") + WaylandPackage();
-    return message.section(QStringLiteral(" Reinstalling"), 0, 0).simplified();
+    if (!qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || message.contains(QLatin1String("wayland")))
+        return Tesselor::tr("tesselor cannot show its window: no display is available.");
+    //: %1: a name such as qt6-wayland
+    const QString text = Tesselor::tr(
+        "tesselor cannot show its window: Qt's plugin for Wayland is missing. It is in the package %1.");
+    return text.arg(QLatin1String(WaylandPackage()));
 }
 
 // Qt aborts when it cannot reach a display. Exit cleanly instead of dumping core.
 void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-    if (type != QtFatalMsg) return theUsualHandler(type, context, message);
-    std::fprintf(stderr, "tesselor cannot show its window: %s\n", qPrintable(WhyNoWindow(message)));
+    if (type != QtFatalMsg || !message.contains(QLatin1String("no Qt platform plugin")))
+        return theUsualHandler(type, context, message);
+    ChooseLanguage();
+    std::fprintf(stderr, "%s\n", qPrintable(WhyNoWindow(message)));
     std::_Exit(EXIT_FAILURE);
 }
 

@@ -400,27 +400,6 @@
         <translation>فارغة، أفلت صورة هنا لإضافة مظهر جديد</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>الاستخدام: tesselor [خيارات]
-لغز بطاقات للاعب واحد.
-
-  -h, --help     عرض هذه المساعدة والخروج
-  -v, --version  عرض الإصدار والخروج
-
-تُقبل أيضًا خيارات Qt مثل -platform. اضبط TESSELOR_HOME لاستخدام مجلد آخر
-للمظاهر ونص القواعد وملفات الصوت، وQT_SCALE_FACTOR=2 لمضاعفة حجم النافذة.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>تنبيه مهم!</translation>
     </message>
@@ -435,6 +414,41 @@ size of the window.
     <message>
         <source>in the Windows Setting System</source>
         <translation>في إعدادات نظام Windows</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>الاستخدام: tesselor [خيارات]
+لغز بطاقات للاعب واحد.
+
+  -h, --help     عرض هذه المساعدة والخروج
+  -v, --version  عرض الإصدار والخروج
+      --scale N  تكبير النافذة بمعامل N، من 1 إلى 4، مثل 1.5
+
+تُقبل أيضًا خيارات Qt مثل -platform. اضبط TESSELOR_HOME لاستخدام مجلد آخر
+للمظاهر ونص القواعد وملفات الصوت.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: يتطلب الخيار --scale عددًا من 1 إلى 4، مثل 1.5، وليس «%1».</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>تعذّر على tesselor عرض نافذته: لا توجد شاشة متاحة.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>تعذّر على tesselor عرض نافذته: ملحق Qt لدعم Wayland غير موجود. تجده في الحزمة %1.</translation>
     </message>
 </context>
 </TS>

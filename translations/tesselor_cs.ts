@@ -394,28 +394,6 @@
         <translation>prázdné, nový vzhled přidáte přetažením obrázku sem</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Použití: tesselor [volby]
-Logická karetní hra pro jednoho hráče.
-
-  -h, --help     zobrazí tuto nápovědu a skončí
-  -v, --version  zobrazí verzi a skončí
-
-Fungují i volby Qt, například -platform. Proměnná TESSELOR_HOME určuje jinou
-složku pro vzhledy, text pravidel a zvuky, QT_SCALE_FACTOR=2 zdvojnásobí
-velikost okna.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Důležité upozornění!</translation>
     </message>
@@ -430,6 +408,41 @@ velikost okna.
     <message>
         <source>in the Windows Setting System</source>
         <translation>v nastavení systému Windows</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Použití: tesselor [volby]
+Logická karetní hra pro jednoho hráče.
+
+  -h, --help     zobrazí tuto nápovědu a skončí
+  -v, --version  zobrazí verzi a skončí
+      --scale N  zvětší okno N-krát (1 až 4, například 1.5)
+
+Fungují i volby Qt, například -platform. Proměnná TESSELOR_HOME určuje jinou
+složku pro vzhledy, text pravidel a zvuky.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: volba --scale vyžaduje číslo od 1 do 4, například 1.5, nikoli „%1“.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor nemůže zobrazit okno: není dostupná žádná obrazovka.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor nemůže zobrazit okno: chybí zásuvný modul Qt pro Wayland. Najdete ho v balíčku %1.</translation>
     </message>
 </context>
 </TS>

@@ -392,28 +392,6 @@
         <translation>leer, für einen neuen Skin ein Bild hierher ziehen</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Aufruf: tesselor [Optionen]
-Ein Denkspiel mit Karten für eine Person.
-
-  -h, --help     diese Hilfe anzeigen und beenden
-  -v, --version  die Version anzeigen und beenden
-
-Qt-Optionen wie -platform werden ebenfalls angenommen. TESSELOR_HOME legt einen
-anderen Ordner für Skins, Spielregeln und Klangdateien fest,
-QT_SCALE_FACTOR=2 verdoppelt die Größe des Fensters.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Wichtiger Hinweis!</translation>
     </message>
@@ -428,6 +406,41 @@ QT_SCALE_FACTOR=2 verdoppelt die Größe des Fensters.
     <message>
         <source>in the Windows Setting System</source>
         <translation>und zwar in den Windows-Einstellungen</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Aufruf: tesselor [Optionen]
+Ein Denkspiel mit Karten für eine Person.
+
+  -h, --help     diese Hilfe anzeigen und beenden
+  -v, --version  die Version anzeigen und beenden
+      --scale N  das Fenster auf das N-Fache vergrößern (1 bis 4, etwa 1.5)
+
+Qt-Optionen wie -platform werden ebenfalls angenommen. TESSELOR_HOME legt einen
+anderen Ordner für Skins, Spielregeln und Klangdateien fest.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: --scale erwartet eine Zahl von 1 bis 4, zum Beispiel 1.5, nicht „%1“.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor kann sein Fenster nicht anzeigen: Es ist keine Anzeige verfügbar.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor kann sein Fenster nicht anzeigen: Das Qt-Plugin für Wayland fehlt. Es ist im Paket %1 enthalten.</translation>
     </message>
 </context>
 </TS>

@@ -392,28 +392,6 @@
         <translation>Vacío, suelta aquí una imagen para añadir un tema</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Uso: tesselor [opciones]
-Un rompecabezas de cartas para un jugador.
-
-  -h, --help     muestra esta ayuda y sale
-  -v, --version  muestra la versión y sale
-
-También se aceptan las opciones de Qt, como -platform. Con TESSELOR_HOME se usa
-otra carpeta para los temas, las reglas y los sonidos, y con QT_SCALE_FACTOR=2
-la ventana se ve al doble de tamaño.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>¡Aviso importante!</translation>
     </message>
@@ -428,6 +406,41 @@ la ventana se ve al doble de tamaño.
     <message>
         <source>in the Windows Setting System</source>
         <translation>en la configuración de Windows</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Uso: tesselor [opciones]
+Un rompecabezas de cartas para un jugador.
+
+  -h, --help     muestra esta ayuda y sale
+  -v, --version  muestra la versión y sale
+      --scale N  amplía la ventana N veces, de 1 a 4, por ejemplo 1.5
+
+También se aceptan las opciones de Qt, como -platform. Con TESSELOR_HOME se usa
+otra carpeta para los temas, las reglas y los sonidos.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: --scale requiere un número de 1 a 4, por ejemplo 1.5, no «%1».</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor no puede mostrar su ventana: no hay ninguna pantalla disponible.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor no puede mostrar su ventana: falta el complemento de Qt para Wayland. Está en el paquete %1.</translation>
     </message>
 </context>
 </TS>

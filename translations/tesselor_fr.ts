@@ -392,28 +392,6 @@
         <translation>Vide, déposez ici une image pour ajouter un thème</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Utilisation&#xa0;: tesselor [options]
-Un casse-tête de cartes pour un joueur.
-
-  -h, --help     affiche cette aide et quitte
-  -v, --version  affiche la version et quitte
-
-Les options de Qt, comme -platform, sont aussi acceptées. TESSELOR_HOME désigne
-un autre dossier pour les thèmes, les règles et les sons&#xa0;; QT_SCALE_FACTOR=2
-double la taille de la fenêtre.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Avis important&#xa0;!</translation>
     </message>
@@ -428,6 +406,41 @@ double la taille de la fenêtre.
     <message>
         <source>in the Windows Setting System</source>
         <translation>dans les paramètres d’affichage de Windows</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Utilisation&#xa0;: tesselor [options]
+Un casse-tête de cartes pour un joueur.
+
+  -h, --help     affiche cette aide et quitte
+  -v, --version  affiche la version et quitte
+      --scale N  agrandit la fenêtre N fois, de 1 à 4, par exemple 1.5
+
+Les options de Qt, comme -platform, sont aussi acceptées. TESSELOR_HOME désigne
+un autre dossier pour les thèmes, les règles et les sons.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: --scale attend un nombre de 1 à 4, par exemple 1.5, et non «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor ne peut pas afficher sa fenêtre&#xa0;: aucun affichage n’est disponible.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor ne peut pas afficher sa fenêtre&#xa0;: le greffon Qt pour Wayland est absent. Il se trouve dans le paquet %1.</translation>
     </message>
 </context>
 </TS>

@@ -390,28 +390,6 @@
         <translation>üres, új kinézethez húzz ide egy képet</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Használat: tesselor [kapcsolók]
-Kártyás logikai játék egy játékosnak.
-
-  -h, --help     kiírja ezt a súgót, majd kilép
-  -v, --version  kiírja a verziót, majd kilép
-
-A Qt kapcsolói, például a -platform, szintén használhatók. A TESSELOR_HOME
-változóval más mappa adható meg a kinézeteknek, a szabályoknak és a hangoknak,
-a QT_SCALE_FACTOR=2 pedig kétszeresére nagyítja az ablakot.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Fontos figyelmeztetés!</translation>
     </message>
@@ -426,6 +404,41 @@ a QT_SCALE_FACTOR=2 pedig kétszeresére nagyítja az ablakot.
     <message>
         <source>in the Windows Setting System</source>
         <translation>a Windows rendszerbeállításaiban</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Használat: tesselor [kapcsolók]
+Kártyás logikai játék egy játékosnak.
+
+  -h, --help     kiírja ezt a súgót, majd kilép
+  -v, --version  kiírja a verziót, majd kilép
+      --scale N  N-szeresére nagyítja az ablakot (1 és 4 között, például 1.5)
+
+A Qt kapcsolói, például a -platform, szintén használhatók. A TESSELOR_HOME
+változóval más mappa adható meg a kinézeteknek, a szabályoknak és a hangoknak.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: a --scale értéke 1 és 4 közötti szám lehet, például 1.5, nem pedig „%1”.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>A tesselor nem tudja megjeleníteni az ablakát: nincs elérhető kijelző.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>A tesselor nem tudja megjeleníteni az ablakát: hiányzik a Qt Wayland-bővítménye. Ebben a csomagban van: %1.</translation>
     </message>
 </context>
 </TS>

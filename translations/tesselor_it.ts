@@ -392,28 +392,6 @@
         <translation>Vuoto, trascina qui un’immagine per aggiungere un tema</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Uso: tesselor [opzioni]
-Un rompicapo con le carte per un giocatore.
-
-  -h, --help     mostra questo aiuto ed esce
-  -v, --version  mostra la versione ed esce
-
-Sono accettate anche le opzioni di Qt, come -platform. Con TESSELOR_HOME si
-indica un’altra cartella per temi, regole e suoni; con QT_SCALE_FACTOR=2 si
-raddoppiano le dimensioni della finestra.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Avviso importante!</translation>
     </message>
@@ -428,6 +406,41 @@ raddoppiano le dimensioni della finestra.
     <message>
         <source>in the Windows Setting System</source>
         <translation>nelle impostazioni di Windows</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Uso: tesselor [opzioni]
+Un rompicapo con le carte per un giocatore.
+
+  -h, --help     mostra questo aiuto ed esce
+  -v, --version  mostra la versione ed esce
+      --scale N  ingrandisce la finestra N volte, da 1 a 4, per esempio 1.5
+
+Sono accettate anche le opzioni di Qt, come -platform. Con TESSELOR_HOME si
+indica un’altra cartella per temi, regole e suoni.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: --scale richiede un numero da 1 a 4, per esempio 1.5, non “%1”.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor non può mostrare la finestra: nessuno schermo disponibile.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor non può mostrare la finestra: manca il plugin di Qt per Wayland. Si trova nel pacchetto %1.</translation>
     </message>
 </context>
 </TS>

@@ -390,28 +390,6 @@
         <translation>空き、ここに画像をドロップしてスキンを追加</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>使い方: tesselor [オプション]
-1人用カードパズル。
-
-  -h, --help     このヘルプを表示して終了
-  -v, --version  バージョンを表示して終了
-
--platformなどのQtのオプションも使えます。TESSELOR_HOMEを設定すると、スキン、
-ルールの文書、音声ファイルのフォルダーを変更できます。QT_SCALE_FACTOR=2に
-するとウィンドウが2倍の大きさになります。
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>重要なお知らせ</translation>
     </message>
@@ -426,6 +404,41 @@ size of the window.
     <message>
         <source>in the Windows Setting System</source>
         <translation>「小さいフォント」に変更してください</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>使い方: tesselor [オプション]
+1人用カードパズル。
+
+  -h, --help     このヘルプを表示して終了
+  -v, --version  バージョンを表示して終了
+      --scale N  ウィンドウをN倍に拡大（Nは1から4まで、1.5など）
+
+-platformなどのQtのオプションも使えます。TESSELOR_HOMEを設定すると、スキン、
+ルールの文書、音声ファイルのフォルダーを変更できます。
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: --scaleには1から4までの数値（1.5など）を指定してください。「%1」は使えません。</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselorのウィンドウを表示できません。利用できるディスプレイがありません。</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselorのウィンドウを表示できません。QtのWayland用プラグインがありません。パッケージ%1に含まれています。</translation>
     </message>
 </context>
 </TS>

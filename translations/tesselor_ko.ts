@@ -390,28 +390,6 @@
         <translation>비어 있음, 그림을 여기에 끌어다 놓아 스킨 추가</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>사용법: tesselor [옵션]
-1인용 카드 퍼즐.
-
-  -h, --help     이 도움말을 표시하고 종료
-  -v, --version  버전을 표시하고 종료
-
--platform 같은 Qt 옵션도 사용할 수 있습니다. TESSELOR_HOME을 설정하면 스킨,
-규칙 문서, 소리 파일을 다른 폴더에서 불러오고, QT_SCALE_FACTOR=2로 설정하면
-창이 두 배로 커집니다.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>중요 알림</translation>
     </message>
@@ -426,6 +404,41 @@ size of the window.
     <message>
         <source>in the Windows Setting System</source>
         <translation>‘작은 글꼴’로 바꿔 주세요</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>사용법: tesselor [옵션]
+1인용 카드 퍼즐.
+
+  -h, --help     이 도움말을 표시하고 종료
+  -v, --version  버전을 표시하고 종료
+      --scale N  창을 N배로 확대(1에서 4까지, 예: 1.5)
+
+-platform 같은 Qt 옵션도 사용할 수 있습니다. TESSELOR_HOME을 설정하면 스킨,
+규칙 문서, 소리 파일을 다른 폴더에서 불러옵니다.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: --scale에는 1에서 4까지의 숫자(예: 1.5)를 지정해야 합니다. “%1” 값은 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor 창을 표시할 수 없습니다. 사용할 수 있는 디스플레이가 없습니다.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor 창을 표시할 수 없습니다. Qt의 Wayland 플러그인이 없습니다. %1 패키지에 들어 있습니다.</translation>
     </message>
 </context>
 </TS>

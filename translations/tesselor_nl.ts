@@ -392,28 +392,6 @@
         <translation>leeg, sleep hier een afbeelding naartoe voor een nieuwe skin</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Gebruik: tesselor [opties]
-Een kaartpuzzel voor één speler.
-
-  -h, --help     deze hulptekst tonen en afsluiten
-  -v, --version  de versie tonen en afsluiten
-
-Qt-opties zoals -platform worden ook geaccepteerd. Met TESSELOR_HOME kies je een
-andere map voor skins, spelregels en geluidsbestanden, met QT_SCALE_FACTOR=2
-wordt het venster twee keer zo groot.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Belangrijk!</translation>
     </message>
@@ -428,6 +406,41 @@ wordt het venster twee keer zo groot.
     <message>
         <source>in the Windows Setting System</source>
         <translation>in de instellingen van Windows</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Gebruik: tesselor [opties]
+Een kaartpuzzel voor één speler.
+
+  -h, --help     deze hulptekst tonen en afsluiten
+  -v, --version  de versie tonen en afsluiten
+      --scale N  het venster N keer zo groot maken, 1 tot en met 4, zoals 1.5
+
+Qt-opties zoals -platform worden ook geaccepteerd. Met TESSELOR_HOME kies je een
+andere map voor skins, spelregels en geluidsbestanden.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: --scale verwacht een getal van 1 tot en met 4, zoals 1.5, niet “%1”.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor kan zijn venster niet tonen: er is geen beeldscherm beschikbaar.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor kan zijn venster niet tonen: de Qt-plug-in voor Wayland ontbreekt. Die zit in het pakket %1.</translation>
     </message>
 </context>
 </TS>

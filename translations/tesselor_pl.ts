@@ -394,28 +394,6 @@
         <translation>puste, upuść tu obraz, aby dodać skórkę</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Użycie: tesselor [opcje]
-Karciana łamigłówka dla jednego gracza.
-
-  -h, --help     pokazuje tę pomoc i kończy działanie
-  -v, --version  pokazuje wersję i kończy działanie
-
-Działają też opcje Qt, na przykład -platform. Zmienna TESSELOR_HOME wskazuje
-inny folder skórek, tekstu zasad i plików dźwiękowych, a QT_SCALE_FACTOR=2
-podwaja rozmiar okna.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Ważna informacja!</translation>
     </message>
@@ -430,6 +408,41 @@ podwaja rozmiar okna.
     <message>
         <source>in the Windows Setting System</source>
         <translation>w ustawieniach systemu Windows</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Użycie: tesselor [opcje]
+Karciana łamigłówka dla jednego gracza.
+
+  -h, --help     pokazuje tę pomoc i kończy działanie
+  -v, --version  pokazuje wersję i kończy działanie
+      --scale N  powiększa okno N razy, od 1 do 4, na przykład 1.5
+
+Działają też opcje Qt, na przykład -platform. Zmienna TESSELOR_HOME wskazuje
+inny folder skórek, tekstu zasad i plików dźwiękowych.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: opcja --scale wymaga liczby od 1 do 4, na przykład 1.5, a nie „%1”.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor nie może wyświetlić okna: brak dostępnego ekranu.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor nie może wyświetlić okna: brakuje wtyczki Qt dla Waylanda. Znajduje się ona w pakiecie %1.</translation>
     </message>
 </context>
 </TS>

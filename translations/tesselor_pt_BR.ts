@@ -392,28 +392,6 @@
         <translation>Vazio, solte uma imagem aqui para adicionar um tema</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Uso: tesselor [opções]
-Um quebra-cabeça de cartas para um jogador.
-
-  -h, --help     mostra esta ajuda e sai
-  -v, --version  mostra a versão e sai
-
-As opções do Qt, como -platform, também são aceitas. Use TESSELOR_HOME para
-indicar outra pasta de temas, regras e sons, e QT_SCALE_FACTOR=2 para dobrar o
-tamanho da janela.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Aviso importante!</translation>
     </message>
@@ -428,6 +406,41 @@ tamanho da janela.
     <message>
         <source>in the Windows Setting System</source>
         <translation>nas configurações do Windows</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Uso: tesselor [opções]
+Um quebra-cabeça de cartas para um jogador.
+
+  -h, --help     mostra esta ajuda e sai
+  -v, --version  mostra a versão e sai
+      --scale N  amplia a janela N vezes, de 1 a 4, por exemplo 1.5
+
+As opções do Qt, como -platform, também são aceitas. Use TESSELOR_HOME para
+indicar outra pasta de temas, regras e sons.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: --scale exige um número de 1 a 4, por exemplo 1.5, e não “%1”.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>O tesselor não pode mostrar a janela: não há nenhuma tela disponível.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>O tesselor não pode mostrar a janela: falta o plugin do Qt para Wayland. Ele está no pacote %1.</translation>
     </message>
 </context>
 </TS>

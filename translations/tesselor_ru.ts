@@ -394,28 +394,6 @@
         <translation>пусто, перетащите сюда картинку для нового скина</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Использование: tesselor [параметры]
-Карточная головоломка для одного игрока.
-
-  -h, --help     показать эту справку и выйти
-  -v, --version  показать версию и выйти
-
-Можно указывать и параметры Qt, например -platform. Переменная TESSELOR_HOME
-задаёт другую папку для скинов, правил и звуков, а QT_SCALE_FACTOR=2 увеличивает
-окно вдвое.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Важно!</translation>
     </message>
@@ -430,6 +408,41 @@ size of the window.
     <message>
         <source>in the Windows Setting System</source>
         <translation>в настройках экрана Windows</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Использование: tesselor [параметры]
+Карточная головоломка для одного игрока.
+
+  -h, --help     показать эту справку и выйти
+  -v, --version  показать версию и выйти
+      --scale N  увеличить окно в N раз, от 1 до 4, например 1.5
+
+Можно указывать и параметры Qt, например -platform. Переменная TESSELOR_HOME
+задаёт другую папку для скинов, правил и звуков.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: параметр --scale принимает число от 1 до 4, например 1.5, а не «%1».</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor не может показать окно: нет доступного дисплея.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor не может показать окно: отсутствует плагин Qt для Wayland. Он находится в пакете %1.</translation>
     </message>
 </context>
 </TS>

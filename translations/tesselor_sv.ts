@@ -392,28 +392,6 @@
         <translation>tom, släpp en bild här för ett nytt tema</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Användning: tesselor [flaggor]
-Ett kortpussel för en spelare.
-
-  -h, --help     visa den här hjälpen och avsluta
-  -v, --version  visa versionen och avsluta
-
-Qt-flaggor som -platform fungerar också. Ange TESSELOR_HOME för att använda en
-annan mapp för teman, spelregler och ljudfiler, och QT_SCALE_FACTOR=2 för att
-fördubbla fönstrets storlek.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Viktigt!</translation>
     </message>
@@ -428,6 +406,41 @@ fördubbla fönstrets storlek.
     <message>
         <source>in the Windows Setting System</source>
         <translation>i inställningarna för Windows</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Användning: tesselor [flaggor]
+Ett kortpussel för en spelare.
+
+  -h, --help     visa den här hjälpen och avsluta
+  -v, --version  visa versionen och avsluta
+      --scale N  förstora fönstret N gånger, från 1 till 4, till exempel 1.5
+
+Qt-flaggor som -platform fungerar också. Ange TESSELOR_HOME för att använda en
+annan mapp för teman, spelregler och ljudfiler.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: --scale kräver ett tal från 1 till 4, till exempel 1.5, inte ”%1”.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor kan inte visa sitt fönster: ingen skärm är tillgänglig.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor kan inte visa sitt fönster: Qt:s insticksmodul för Wayland saknas. Den finns i paketet %1.</translation>
     </message>
 </context>
 </TS>

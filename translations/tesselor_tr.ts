@@ -390,28 +390,6 @@
         <translation>boş, yeni tema için buraya bir resim bırakın</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Kullanım: tesselor [seçenekler]
-Tek kişilik bir kart bulmacası.
-
-  -h, --help     bu yardımı gösterir ve çıkar
-  -v, --version  sürümü gösterir ve çıkar
-
--platform gibi Qt seçenekleri de kabul edilir. TESSELOR_HOME ile temalar, kural
-metni ve ses dosyaları için başka bir klasör belirleyebilir, QT_SCALE_FACTOR=2
-ile pencereyi iki kat büyütebilirsiniz.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Önemli uyarı!</translation>
     </message>
@@ -426,6 +404,41 @@ ile pencereyi iki kat büyütebilirsiniz.
     <message>
         <source>in the Windows Setting System</source>
         <translation>Windows sistem ayarlarında</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Kullanım: tesselor [seçenekler]
+Tek kişilik bir kart bulmacası.
+
+  -h, --help     bu yardımı gösterir ve çıkar
+  -v, --version  sürümü gösterir ve çıkar
+      --scale N  pencereyi N kat büyütür; 1 ile 4 arası, örneğin 1.5
+
+-platform gibi Qt seçenekleri de kabul edilir. TESSELOR_HOME ile temalar, kural
+metni ve ses dosyaları için başka bir klasör belirleyebilirsiniz.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: --scale için 1 ile 4 arasında bir sayı gerekir, örneğin 1.5; “%1” olmaz.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor penceresini gösteremiyor: kullanılabilir bir ekran yok.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor penceresini gösteremiyor: Qt için Wayland eklentisi eksik. Bu eklenti %1 paketindedir.</translation>
     </message>
 </context>
 </TS>

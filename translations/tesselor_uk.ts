@@ -394,28 +394,6 @@
         <translation>порожньо, перетягніть сюди картинку для нового скіна</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>Користування: tesselor [параметри]
-Карткова головоломка для одного гравця.
-
-  -h, --help     показати цю довідку й вийти
-  -v, --version  показати версію й вийти
-
-Можна вказувати й параметри Qt, наприклад -platform. Змінна TESSELOR_HOME задає
-іншу теку для скінів, правил і звуків, а QT_SCALE_FACTOR=2 збільшує
-вікно вдвічі.
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>Важливо!</translation>
     </message>
@@ -430,6 +408,41 @@ size of the window.
     <message>
         <source>in the Windows Setting System</source>
         <translation>у налаштуваннях екрана Windows</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>Користування: tesselor [параметри]
+Карткова головоломка для одного гравця.
+
+  -h, --help     показати цю довідку й вийти
+  -v, --version  показати версію й вийти
+      --scale N  збільшити вікно в N разів, від 1 до 4, наприклад 1.5
+
+Можна вказувати й параметри Qt, наприклад -platform. Змінна TESSELOR_HOME задає
+іншу теку для скінів, правил і звуків.
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: параметр --scale приймає число від 1 до 4, наприклад 1.5, а не «%1».</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor не може показати вікно: немає доступного дисплея.</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor не може показати вікно: бракує плагіна Qt для Wayland. Він міститься в пакунку %1.</translation>
     </message>
 </context>
 </TS>

@@ -390,27 +390,6 @@
         <translation>空，将图片拖放到此处可添加皮肤</translation>
     </message>
     <message>
-        <source>Usage: tesselor [options]
-A single-player card puzzle.
-
-  -h, --help     show this help and exit
-  -v, --version  show the version and exit
-
-Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use another
-folder for skins, rules text and sound files, and QT_SCALE_FACTOR=2 to double the
-size of the window.
-</source>
-        <translation>用法：tesselor [选项]
-单人卡牌益智游戏。
-
-  -h, --help     显示此帮助并退出
-  -v, --version  显示版本并退出
-
-也可以使用 -platform 等 Qt 选项。设置 TESSELOR_HOME 可改用另一个文件夹存放
-皮肤、规则文本和声音文件，设置 QT_SCALE_FACTOR=2 可将窗口放大一倍。
-</translation>
-    </message>
-    <message>
         <source>Important notice!</source>
         <translation>重要提示</translation>
     </message>
@@ -425,6 +404,41 @@ size of the window.
     <message>
         <source>in the Windows Setting System</source>
         <translation>改用“小字体”</translation>
+    </message>
+    <message>
+        <source>Usage: tesselor [options]
+A single-player card puzzle.
+
+  -h, --help     show this help and exit
+  -v, --version  show the version and exit
+      --scale N  enlarge the window N times, from 1 to 4, such as 1.5
+
+Qt options such as -platform are accepted as well. Set TESSELOR_HOME to use
+another folder for skins, rules text and sound files.
+</source>
+        <translation>用法：tesselor [选项]
+单人卡牌益智游戏。
+
+  -h, --help     显示此帮助并退出
+  -v, --version  显示版本并退出
+      --scale N  将窗口放大到 N 倍（1 到 4，例如 1.5）
+
+也可以使用 -platform 等 Qt 选项。设置 TESSELOR_HOME 可改用另一个文件夹存放
+皮肤、规则文本和声音文件。
+</translation>
+    </message>
+    <message>
+        <source>tesselor: --scale takes a number from 1 to 4, such as 1.5, not &quot;%1&quot;.</source>
+        <translation>tesselor: --scale 的值必须是 1 到 4 之间的数字，例如 1.5，不能是“%1”。</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: no display is available.</source>
+        <translation>tesselor 无法显示窗口：没有可用的显示服务。</translation>
+    </message>
+    <message>
+        <source>tesselor cannot show its window: Qt&apos;s plugin for Wayland is missing. It is in the package %1.</source>
+        <extracomment>%1: a name such as qt6-wayland</extracomment>
+        <translation>tesselor 无法显示窗口：缺少 Qt 的 Wayland 插件。该插件在软件包 %1 中。</translation>
     </message>
 </context>
 </TS>

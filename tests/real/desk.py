@@ -32,7 +32,7 @@ class Desk(Desktop):
         os.environ |= {"DBUS_SESSION_BUS_ADDRESS": "disabled:", "LANGUAGE": "en", "TESSELOR_HOME": str(self.home)}
 
     def play(self):
-        super().play(self.program)
+        super().play(self.program, "--scale", os.environ.pop("QT_SCALE_FACTOR"))
 
     def leave(self):
         self.click(EXIT)

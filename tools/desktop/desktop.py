@@ -65,9 +65,9 @@ class Desktop:
         """Runs xdotool and returns its output."""
         return subprocess.run(["xdotool", *map(str, command)], capture_output=True, text=True).stdout
 
-    def play(self, program):
+    def play(self, program, *options):
         """Starts the game in the upper left corner of the screen."""
-        self.game = self.start(*self.windows.RUN, program)
+        self.game = self.start(*self.windows.RUN, program, *options)
         self.window = until(self.shown, "no window").pop()
         self.windows.move(self.window, 0, 0)
         self.windows.focus(self.window)
