@@ -1,4 +1,3 @@
-#include <malloc.h>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -8,6 +7,7 @@
 
 #include "platform/language/Language.h"
 #include "platform/language/Tesselor.h"
+#include "platform/memory/Memory.h"
 #include "shell/CommandLine.h"
 #include "shell/WindowShape.h"
 #include "shell/mdlMain.h"
@@ -48,8 +48,7 @@ int main(int argc, char* argv[]) {
     // Otherwise Qt would store the player's files in the root folder.
     if (const passwd* user = getpwuid(getuid()); user && !qEnvironmentVariableIsSet("HOME"))
         qputenv("HOME", user->pw_dir);
-    mallopt(M_MMAP_THRESHOLD, 1 << 20);  // return freed pictures to the system
-    mallopt(M_ARENA_MAX, 1);             // let the window reuse what the decoding thread frees
+    Memory::ShareHeap();
     theUsualHandler = qInstallMessageHandler(EndWithoutDisplay);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);

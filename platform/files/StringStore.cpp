@@ -1,16 +1,14 @@
 #include "platform/files/StringStore.h"
 
-#include <link.h>
 #include <sqlite3.h>
-#include <sys/mman.h>
-#include <unistd.h>
 
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QThread>
 #include <cassert>
-#include <cstring>
+
+#include "platform/memory/Memory.h"
 
 // SQLite's default rollback journal, not WAL: the rarely written store is then one file at rest, and reading
 // it creates no others, which a read-only folder would refuse.
@@ -66,21 +64,6 @@ void SetAside(const QString& file) {
     QFile::rename(file, aside);
 }
 
-// Drops SQLite's code from resident memory: it is over a megabyte, is needed only for moments, and is paged
-// in again on use. dl_iterate_phdr calls this for each library until it returns non-zero.
-int GiveBackCode(dl_phdr_info* library, std::size_t, void*) {
-    if (!std::strstr(library->dlpi_name, "libsqlite3")) return 0;
-    const auto page = static_cast<std::uintptr_t>(getpagesize());
-    for (int i = 0; i < library->dlpi_phnum; ++i) {
-        const auto& part = library->dlpi_phdr[i];
-        if (part.p_type != PT_LOAD || (part.p_flags & PF_W) != 0) continue;
-        const std::uintptr_t begin = library->dlpi_addr + part.p_vaddr, within = begin % page;
-        // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader gives addresses as integers
-        madvise(reinterpret_cast<void*>(begin - within), part.p_memsz + within, MADV_DONTNEED);
-    }
-    return 1;
-}
-
 }  // namespace
 
 QString StringStore::UserFile() {
@@ -96,7 +79,7 @@ StringStore::Connection StringStore::Open() const {
     return {database, [this](sqlite3* last) {
                 othersHang_ = sqlite3_errcode(last) == SQLITE_BUSY;
                 sqlite3_close(last);
-                dl_iterate_phdr(GiveBackCode, nullptr);
+                Memory::ReturnCode("libsqlite3");  // over a megabyte
             }};
 }
 

@@ -1,13 +1,12 @@
 #include "platform/pictures/PictureSheet.h"
 
-#include <malloc.h>
-
 #include <QFile>
 #include <QGuiApplication>
 #include <QPainter>
 #include <new>
 
 #include "platform/language/Tesselor.h"
+#include "platform/memory/Memory.h"
 
 namespace {
 
@@ -76,11 +75,10 @@ std::shared_ptr<PictureSheet> PictureSheet::FromBytes(const QByteArray& bytes, c
     return loaded;
 }
 
-// A freed sheet leaves holes in the heap; return them to the system.
 PictureSheet::~PictureSheet() {
     cells_ = {};
     bytes_ = {};
-    malloc_trim(0);
+    Memory::ReturnHoles();
 }
 
 QImage PictureSheet::Render(int cell, qreal scale) const {

@@ -1,6 +1,6 @@
 #include "platform/sound/SoundServer.h"
 
-#include <sys/eventfd.h>
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -31,30 +31,33 @@ bool IsOpening(const pa_stream* stream) {
 
 }  // namespace
 
-// pa_mainloop_wakeup loses a wake-up that comes just before the loop goes to sleep; an eventfd does not.
-SoundServer::SoundServer() : bell_(eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC)) {
-    if (bell_ >= 0) loop_ = pa_mainloop_new();
+// pa_mainloop_wakeup loses a wake-up that comes just before the loop goes to sleep; a pipe does not.
+SoundServer::SoundServer() {
+    if (pipe2(bell_.data(), O_NONBLOCK | O_CLOEXEC) != 0)
+        throw std::system_error(errno, std::generic_category());
+    loop_ = pa_mainloop_new();
     if (!loop_) {
         const int reason = errno;
-        if (bell_ >= 0) close(bell_);
+        for (const int end : bell_) close(end);
         throw std::system_error(reason, std::generic_category());
     }
     const auto silence = [](pa_mainloop_api*, pa_io_event*, int bell, pa_io_event_flags_t, void*) {
-        eventfd_t rings = 0;
-        eventfd_read(bell, &rings);
+        std::array<char, 64> rings{};
+        while (read(bell, rings.data(), rings.size()) > 0) continue;
     };
     pa_mainloop_api* const api = pa_mainloop_get_api(loop_);
-    api->io_new(api, bell_, PA_IO_EVENT_INPUT, silence, nullptr);
+    api->io_new(api, bell_[0], PA_IO_EVENT_INPUT, silence, nullptr);
 }
 
 SoundServer::~SoundServer() {
     Disconnect();
     pa_mainloop_free(loop_);
-    close(bell_);
+    for (const int end : bell_) close(end);
 }
 
 void SoundServer::Wake() {
-    eventfd_write(bell_, 1);
+    // A full pipe rings already.
+    [[maybe_unused]] const auto written = write(bell_[1], "", 1);
 }
 
 void SoundServer::Play(Sound sound) {

@@ -3,6 +3,7 @@
 #include <pulse/pulseaudio.h>
 
 #include <QDeadlineTimer>
+#include <array>
 #include <atomic>
 #include <optional>
 
@@ -49,7 +50,7 @@ private:
     void CloseStream();
     void GiveUp();
 
-    int bell_;  // an eventfd that Wake raises and the loop watches
+    std::array<int, 2> bell_{};  // a pipe that Wake writes to and the loop watches
     pa_mainloop* loop_ = nullptr;
     pa_context* context_ = nullptr;
     pa_stream* stream_ = nullptr;  // of `sound_`, from its request until it has been played

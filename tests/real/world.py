@@ -3,6 +3,7 @@
 
 import resource
 import shutil
+import subprocess
 import sys
 
 from desk import SCREEN, Desk, write_skin
@@ -12,7 +13,7 @@ from desktop import MENU, PLAY, SCORE, SLOTS, until
 # The player is told when there is too little memory for a skin of the largest size, and the game goes on.
 def no_memory(desk):
     desk.click(SLOTS[1])
-    used = int(open(f"/proc/{desk.game.pid}/statm").read().split()[0]) * resource.getpagesize()
+    used = 1024 * int(subprocess.check_output(["ps", "-o", "vsz=", "-p", str(desk.game.pid)]))
     _, most = resource.prlimit(desk.game.pid, resource.RLIMIT_AS)
     resource.prlimit(desk.game.pid, resource.RLIMIT_AS, (used + 20_000_000, most))
     desk.click(PLAY)
