@@ -7,8 +7,6 @@
 namespace Look {
 namespace {
 
-const QString kFamily = QStringLiteral("Open Sans");
-
 struct Size {
     int pixels;
     QFont::Weight weight;
@@ -65,7 +63,7 @@ public:
 
 QFont Font(Text text) {
     const Size size = SizeOf(text);
-    QFont font(kFamily);
+    QFont font(QString::fromLatin1(kFamily));
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(size.pixels);
     font.setWeight(size.weight);

@@ -27,6 +27,7 @@ inline const QColor kRule(0xB8, 0x9A, 0x5A);  // lines of a table, edges of keys
 
 // A heading is as large as other text, but heavier; a caption is in spaced capitals. Sizes are in logical
 // pixels; figures are tabular.
+inline constexpr const char* kFamily = "Open Sans";
 enum class Text { Caption, Small, Normal, Heading, Number };
 [[nodiscard]] QFont Font(Text text);
 

@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <QTextBlock>
 
+#include "platform/fonts/Fonts.h"
 #include "platform/language/Language.h"
 #include "platform/language/Tesselor.h"
 #include "screen/Look.h"
@@ -97,7 +98,9 @@ frmInfo::frmInfo(QWidget* owner, const ProgramFolder& folder)
 }
 
 void frmInfo::Form_Load(const ProgramFolder& folder) {
-    Text1.setPlainText(RulesText(RulesFile(folder)));
+    const QString text = RulesText(RulesFile(folder));
+    Fonts::ListAllFor(text);
+    Text1.setPlainText(text);
     DressHeadings(*Text1.document());
 }
 

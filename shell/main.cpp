@@ -5,9 +5,11 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "platform/fonts/Fonts.h"
 #include "platform/language/Language.h"
 #include "platform/language/Tesselor.h"
 #include "platform/memory/Memory.h"
+#include "screen/Look.h"
 #include "shell/CommandLine.h"
 #include "shell/WindowShape.h"
 #include "shell/mdlMain.h"
@@ -49,6 +51,7 @@ int main(int argc, char* argv[]) {
     if (const passwd* user = getpwuid(getuid()); user && !qEnvironmentVariableIsSet("HOME"))
         qputenv("HOME", user->pw_dir);
     Memory::ShareHeap();
+    Fonts::ListOnly(Look::kFamily);
     theUsualHandler = qInstallMessageHandler(EndWithoutDisplay);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "platform/controls/Control.h"
+#include "platform/fonts/Fonts.h"
 
 // The command-button and text-box controls: Qt's own, placed in twips.
 class CommandButton : public Control<QPushButton> {
@@ -30,6 +31,7 @@ class TextBox : public Control<QLineEdit> {
 public:
     TextBox(QWidget* parent, const Placement& placement) : Control<QLineEdit>(parent, placement) {
         access.role = QAccessible::EditableText;
+        connect(this, &QLineEdit::textChanged, this, &Fonts::ListAllFor);
     }
 
     [[nodiscard]] QString Text() const { return text(); }
@@ -37,6 +39,10 @@ public:
     void MostLetters(int letters);
 
 protected:
+    void inputMethodEvent(QInputMethodEvent* event) override {
+        Fonts::ListAllFor(event->preeditString());
+        QLineEdit::inputMethodEvent(event);
+    }
     // QLineEdit ignores keys it does not use, such as Escape and Up; they must not reach the game.
     void keyPressEvent(QKeyEvent* event) override {
         QLineEdit::keyPressEvent(event);

@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "platform/fonts/Fonts.h"
+
 namespace {
 
 constexpr int kSmallestPixels = 9;
@@ -10,12 +12,14 @@ constexpr int kSmallestPixels = 9;
 
 Label::Label(QWidget* parent, const Placement& placement)
     : MouseControl(parent, placement), caption_(placement.caption) {
+    Fonts::ListAllFor(caption_);
     access = {QAccessible::StaticText, [this] { return Caption().simplified(); }};
 }
 
 void Label::Caption(const QString& caption) {
     if (caption == caption_) return;
     caption_ = caption;
+    Fonts::ListAllFor(caption_);
     update();
 }
 

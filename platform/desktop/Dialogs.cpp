@@ -4,12 +4,14 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "platform/fonts/Fonts.h"
 #include "platform/pictures/Picture.h"
 
 namespace {
 
 int Show(QWidget* owner, const QString& icon, const QString& text, QMessageBox::StandardButtons buttons,
          QMessageBox::StandardButton byDefault) {
+    Fonts::ListAllFor(text);
     QMessageBox box(QMessageBox::NoIcon, QCoreApplication::applicationName(), text, buttons, owner);
     box.setTextFormat(Qt::PlainText);  // a file name must not be parsed as markup
     box.setIconPixmap(QPixmap::fromImage(WindowArt(icon).At(box.devicePixelRatioF())));

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "platform/fonts/Fonts.h"
 #include "platform/language/Language.h"
 #include "screen/Look.h"
 
@@ -12,6 +13,7 @@ int main(int argc, char* argv[]) {
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" TESSELOR_SCREENS);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     testing::InitGoogleTest(&argc, argv);
+    Fonts::ListOnly(Look::kFamily);
     QApplication application(argc, argv);
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     ChooseLanguage();
