@@ -39,17 +39,20 @@ void frmGame::FillSkinSlots() {
     picSkin_MouseUp(0, 0, 0, 0, 0);
 }
 
-// In a thread of its own: the window stays alive, so anything may have happened when this returns.
-std::shared_ptr<PictureSheet> frmGame::LoadSheet(const QString& path, QString& why) {
+// What `load` loads, in a thread of its own: the window stays alive, so anything may have happened when this
+// returns.
+template <class Loaded>
+Loaded frmGame::InBackground(Loaded (*load)(const QString& path, QString& why), const QString& path,
+                             QString& why) {
     struct Result {
-        std::shared_ptr<PictureSheet> sheet;
+        Loaded loaded;
         QString why;
     };
     const auto result = std::make_shared<Result>();
-    const auto load = [result, path] { result->sheet = PictureSheet::Load(path, result->why); };
-    const bool ended = world_.time.InBackground(load, kMostDecoding + kToNotice);
+    const auto work = [result, load, path] { result->loaded = load(path, result->why); };
+    const bool ended = world_.time.InBackground(work, kMostDecoding + kToNotice);
     why = ended ? result->why : WhyTooSlow(path);
-    return ended ? result->sheet : nullptr;
+    return ended ? result->loaded : Loaded();
 }
 
 // Decoding takes far longer than showing the window, so it is deferred until after the first paint.
@@ -59,22 +62,22 @@ void frmGame::FinishSkinSlots() {
     for (std::int16_t slot = 0; slot < SkinCount;) {
         const QString file = skinFile[slot], path = world_.folder.Path(kSkinFolder + file);
         QString why;
-        const auto sheet = LoadSheet(path, why);
+        const Picture thumbnail = InBackground(PictureSheet::LoadThumbnail, path, why);
         if (unloaded_) return;
         if (skinFile[slot] != file) continue;  // another was dropped there meanwhile
-        if (sheet)
-            ShowInSlot(slot++, *sheet);
-        else
+        if (thumbnail.IsEmpty())
             CloseUpSlot(slot);
+        else
+            ShowInSlot(slot++, thumbnail);
         if (why == WhyTooSlow(path)) world_.dialogs.Tell(this, why);
     }
     OrderSkinSlots();
     SkinCount > 0 ? ChooseSkin(std::min<std::int16_t>(CurrentSkin, SkinCount - 1)) : ChooseNoSkin();
 }
 
-void frmGame::ShowInSlot(std::int16_t slot, const PictureSheet& sheet) {
+void frmGame::ShowInSlot(std::int16_t slot, const Picture& thumbnail) {
     picSkin[slot].Clear();
-    picSkin[slot].PaintPicture(sheet.Thumbnail(), kThumbnailCorner);
+    picSkin[slot].PaintPicture(thumbnail, kThumbnailCorner);
 }
 
 void frmGame::picSkin_OLEDragDrop(std::int16_t& Index, const QString& Data, std::int32_t&, std::int16_t,
@@ -82,7 +85,7 @@ void frmGame::picSkin_OLEDragDrop(std::int16_t& Index, const QString& Data, std:
     if (Index < 0 || Index >= picSkin.size()) return;
     FinishSkinSlots();
     QString why;
-    const auto sheet = LoadSheet(Data, why);
+    const auto sheet = InBackground(PictureSheet::Load, Data, why);
     if (unloaded_) return;
     if (!sheet) return world_.dialogs.Tell(this, why);
     Index = std::min(Index, SkinCount);
@@ -95,7 +98,7 @@ void frmGame::picSkin_OLEDragDrop(std::int16_t& Index, const QString& Data, std:
     if (name.isEmpty()) return;
     // The slot becomes that of the skin; the first empty one comes into use.
     skinFile[Index] = name;
-    ShowInSlot(Index, *sheet);
+    ShowInSlot(Index, sheet->Thumbnail());
     if (Index >= SkinCount && SkinCount < picSkin.size()) ++SkinCount;
     OrderSkinSlots();
     picSkin_MouseUp(Index, 0, 0, 0, 0);
@@ -161,7 +164,9 @@ void frmGame::ChooseNoSkin() {
 
 QString frmGame::LoadSkin() {
     const QString name = QString::fromStdString(Game().SetSkinPicture());
-    const auto load = [this](const QString& path, QString& why) { return LoadSheet(path, why); };
+    const auto load = [this](const QString& path, QString& why) {
+        return InBackground(PictureSheet::Load, path, why);
+    };
     if (!name.isEmpty()) return PicClip1.Load(world_.folder.Path(kSkinFolder + name), load);
     return Tesselor::tr("No skins were found. A skin is a picture of 3 x 13 cards; put one in %1.")
         .arg(world_.folder.Path(kSkinFolder));

@@ -191,8 +191,9 @@ private:
     QString LoadSkin();
     void ChooseSkin(std::int16_t slot);
     void ChooseNoSkin();
-    std::shared_ptr<PictureSheet> LoadSheet(const QString& path, QString& why);
-    void ShowInSlot(std::int16_t slot, const PictureSheet& sheet);
+    template <class Loaded>
+    Loaded InBackground(Loaded (*load)(const QString& path, QString& why), const QString& path, QString& why);
+    void ShowInSlot(std::int16_t slot, const Picture& thumbnail);
     void CloseUpSlot(std::int16_t slot);
     QString Install(const PictureSheet& sheet, const QString& dropped, const QString& folder,
                     std::int16_t slot);

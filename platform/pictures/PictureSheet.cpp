@@ -42,37 +42,54 @@ private:
     QImage image_;
 };
 
-}  // namespace
+// For the largest scale that the command line takes.
+constexpr int kMostThumbnail = 4 * kCellPixels;
 
-std::shared_ptr<PictureSheet> PictureSheet::Load(const QString& path, QString& why) {
+Picture FirstCell(const QImage& sheet) {
+    QImage cell = sheet.copy(CellRect(sheet.size(), 0));
+    if (qMax(cell.width(), cell.height()) > kMostThumbnail)
+        cell = cell.scaled(kMostThumbnail, kMostThumbnail, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return {std::make_shared<FittedImage>(Allocated(cell)), 0};
+}
+
+// What `make` makes of the bytes of the file `path` and the sheet in them, whose cells may be at most
+// `mostCell` pixels long, unless that is 0; otherwise null, and why.
+template <class Make>
+auto FromFile(const QString& path, int mostCell, QString& why, Make make) -> decltype(make({}, {})) {
     why = WhyNotASheet(path);
-    if (!why.isEmpty()) return nullptr;
+    if (!why.isEmpty()) return {};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         why = AboutFile(path, Tesselor::tr("\"%1\" cannot be opened."));
-        return nullptr;
+        return {};
     }
     try {
-        return FromBytes(file.read(qMin(file.size(), kMostSheetBytes)), path, why);
+        const QByteArray bytes = file.read(qMin(file.size(), kMostSheetBytes));
+        const QDeadlineTimer end(kMostDecoding);
+        const QImage sheet = DecodeSheet(bytes, end, why, mostCell);
+        if (!sheet.isNull()) return make(bytes, sheet);
+        why = end.hasExpired() ? WhyTooSlow(path) : AboutFile(path, why);
     } catch (const std::bad_alloc&) {
         why = AboutFile(path, Tesselor::tr("\"%1\" needs more memory than is available."));
-        return nullptr;
     }
+    return {};
 }
 
-std::shared_ptr<PictureSheet> PictureSheet::FromBytes(const QByteArray& bytes, const QString& path,
-                                                      QString& why) {
-    const QDeadlineTimer end(kMostDecoding);
-    const QImage sheet = DecodeSheet(bytes, end, why);
-    if (sheet.isNull()) {
-        why = end.hasExpired() ? WhyTooSlow(path) : AboutFile(path, why);
-        return nullptr;
-    }
-    std::shared_ptr<PictureSheet> loaded(new PictureSheet(bytes));
-    const auto* windows = qobject_cast<const QGuiApplication*>(QCoreApplication::instance());
-    loaded->Cut(sheet, windows ? windows->devicePixelRatio() : 1.0);
-    loaded->first_ = sheet.copy(CellRect(sheet.size(), 0));
-    return loaded;
+}  // namespace
+
+std::shared_ptr<PictureSheet> PictureSheet::Load(const QString& path, QString& why) {
+    return FromFile(path, 0, why, [](const QByteArray& bytes, const QImage& sheet) {
+        std::shared_ptr<PictureSheet> loaded(new PictureSheet(bytes));
+        const auto* windows = qobject_cast<const QGuiApplication*>(QCoreApplication::instance());
+        loaded->Cut(sheet, windows ? windows->devicePixelRatio() : 1.0);
+        loaded->thumbnail_ = FirstCell(sheet);
+        return loaded;
+    });
+}
+
+Picture PictureSheet::LoadThumbnail(const QString& path, QString& why) {
+    return FromFile(path, kMostThumbnail, why,
+                    [](const QByteArray&, const QImage& sheet) { return FirstCell(sheet); });
 }
 
 PictureSheet::~PictureSheet() {
@@ -85,10 +102,6 @@ QImage PictureSheet::Render(int cell, qreal scale) const {
     if (cell < 0 || cell >= kSheetCells) return {};
     if (cells_.front().devicePixelRatio() != scale) Recut(scale);
     return cells_[static_cast<std::size_t>(cell)];
-}
-
-Picture PictureSheet::Thumbnail() const {
-    return {std::make_shared<FittedImage>(first_), 0};
 }
 
 void PictureSheet::Cut(const QImage& sheet, qreal scale) const {

@@ -96,7 +96,7 @@ QImage Allocated(QImage image) {
     return image;
 }
 
-QImage DecodeSheet(const QByteArray& bytes, QDeadlineTimer end, QString& why) {
+QImage DecodeSheet(const QByteArray& bytes, QDeadlineTimer end, QString& why, int mostCell) {
     ExpiringBytes device(bytes, end);
     QImageReader reader(&device);
     const Head head(reader);
@@ -106,6 +106,11 @@ QImage DecodeSheet(const QByteArray& bytes, QDeadlineTimer end, QString& why) {
     if (IsCutShort(head.format, bytes)) return {};
     // Allocate first: QImageReader does not distinguish out of memory from a damaged picture.
     (void)Allocated(QImage(head.size, QImage::Format_ARGB32));
+    if (const QSize cell(head.size.width() / kSheetColumns, head.size.height() / kSheetRows);
+        mostCell > 0 && qMax(cell.width(), cell.height()) > mostCell) {
+        const QSize smaller = cell.scaled(mostCell, mostCell, Qt::KeepAspectRatio).expandedTo({1, 1});
+        reader.setScaledSize({smaller.width() * kSheetColumns, smaller.height() * kSheetRows});
+    }
     QImage image = reader.read();
     // A device that runs dry passes for the end of a JPEG, and the picture in an icon may have another size.
     if (end.hasExpired() || !WhyNotThisSize(image.size()).isEmpty()) return {};

@@ -31,6 +31,7 @@ inline constexpr std::chrono::milliseconds kMostRedrawing{1000};
 // `image`, unless there was no memory for it: then throws std::bad_alloc.
 [[nodiscard]] QImage Allocated(QImage image);
 
-// The picture set in the file's `bytes`. Null when it cannot be decoded before `end`; `why` then says so
-// for AboutFile, and is empty otherwise. Throws std::bad_alloc. Any thread.
-[[nodiscard]] QImage DecodeSheet(const QByteArray& bytes, QDeadlineTimer end, QString& why);
+// The picture set in the file's `bytes`, in a smaller size if a cell would be longer than `mostCell` pixels,
+// unless that is 0. Null when it cannot be decoded before `end`; `why` then says so for AboutFile, and is
+// empty otherwise. Throws std::bad_alloc. Any thread.
+[[nodiscard]] QImage DecodeSheet(const QByteArray& bytes, QDeadlineTimer end, QString& why, int mostCell = 0);

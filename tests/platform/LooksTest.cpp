@@ -233,7 +233,8 @@ TEST(Sheets, OfAnySizeAreCutIntoFittedCellsAndReadAgainWhenTheyChange) {
     const QString path = folder.filePath("sheet.png");
     PictureClip clip;
     EXPECT_TRUE(clip.Cell(0).IsEmpty() && clip.Thumbnail().IsEmpty());
-    for (const QSize size : {QSize(3, 13), QSize(99, 208), QSize(541, 2341), QSize(30, 260)}) {
+    for (const QSize size :
+         {QSize(3, 13), QSize(99, 208), QSize(541, 2341), QSize(900, 3900), QSize(30, 260)}) {
         QImage sheet(3, 13, QImage::Format_RGB32);  // its cells are told apart by red and green
         for (int i = 0; i < 39; ++i) sheet.setPixel(i % 3, i / 3, qRgb(i % 3 * 100, i / 3 * 15, 50));
         sheet.scaled(size).save(path);
@@ -248,7 +249,9 @@ TEST(Sheets, OfAnySizeAreCutIntoFittedCellsAndReadAgainWhenTheyChange) {
             EXPECT_EQ(qAlpha(image.pixel(60, 119)) == 255, 13 * size.width() <= 3 * size.height() + 99);
         }
         EXPECT_TRUE(clip.Cell(39).At(1).isNull() && clip.Cell(-1).At(1).isNull());
-        EXPECT_EQ(clip.Thumbnail().At(1.5).pixelColor(45, 45), QColor(0, 0, 50));
+        QString why;
+        for (const Picture& thumbnail : {clip.Thumbnail(), PictureSheet::LoadThumbnail(path, why)})
+            EXPECT_EQ(thumbnail.At(1.5).pixelColor(45, 45), QColor(0, 0, 50));
     }
     QFile::remove(path);
     EXPECT_EQ(clip.Load(path), "\"sheet.png\" was not found.");
