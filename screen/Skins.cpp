@@ -1,6 +1,7 @@
 // The skins: which files fill the slots, the choice of one, and the picture set a game is played with.
 
 #include "platform/language/Tesselor.h"
+#include "platform/memory/Memory.h"
 #include "screen/Look.h"
 #include "screen/frmGame.h"
 #include "screen/storage/SkinFiles.h"
@@ -73,6 +74,7 @@ void frmGame::FinishSkinSlots() {
     }
     OrderSkinSlots();
     SkinCount > 0 ? ChooseSkin(std::min<std::int16_t>(CurrentSkin, SkinCount - 1)) : ChooseNoSkin();
+    Memory::ReturnCode("");  // most of it was needed only by the start
 }
 
 void frmGame::ShowInSlot(std::int16_t slot, const Picture& thumbnail) {

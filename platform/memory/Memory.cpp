@@ -11,7 +11,7 @@
 
 namespace {
 
-// dl_iterate_phdr calls this for each library until it returns non-zero.
+// dl_iterate_phdr calls this for the program and for each library until it returns non-zero.
 int ReturnCodeOf(dl_phdr_info* library, std::size_t, void* name) {
     if (!std::strstr(library->dlpi_name, static_cast<const char*>(name))) return 0;
     const auto page = static_cast<std::uintptr_t>(getpagesize());
@@ -22,7 +22,7 @@ int ReturnCodeOf(dl_phdr_info* library, std::size_t, void* name) {
         // NOLINTNEXTLINE(performance-no-int-to-ptr): the loader gives addresses as integers
         madvise(reinterpret_cast<void*>(begin - within), part.p_memsz + within, MADV_DONTNEED);
     }
-    return 1;
+    return 0;
 }
 
 }  // namespace

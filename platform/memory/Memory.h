@@ -10,8 +10,9 @@ void ShareHeap();
 // Returns the holes that freed blocks have left in the heap.
 void ReturnHoles();
 
-// Returns the pages that hold the code of a loaded library, for code that is needed only for moments; they
-// are read in again on use. `name`: a part of its file's name.
+// Returns the pages that hold the code of loaded libraries, for code that is needed only for moments; those
+// that are used again come back from the system's cache. `name`: a part of the names of their files; of all
+// when empty.
 void ReturnCode(const char* name);
 
 }  // namespace Memory
