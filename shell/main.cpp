@@ -57,7 +57,7 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     qInstallMessageHandler(theUsualHandler);
     QApplication::setApplicationName(QStringLiteral("Tesselor"));
-    QApplication::setDesktopFileName(QStringLiteral("tesselor"));
+    QApplication::setDesktopFileName(QStringLiteral(TESSELOR_ID));
     const int status = mdlMain::Main();
     // Qt 6.4 can wait forever for its own thread when it leaves a Wayland display.
     if (WindowShape::IsOnWayland()) std::_Exit(status);

@@ -1,6 +1,7 @@
 # Games as they are seen, by mouse and keyboard, and what the window itself answers. usage: seen.py PROGRAM SCALE [sway]
 
 import os
+import pathlib
 import sys
 
 import gi
@@ -45,6 +46,8 @@ desk = Desk(sys.argv[1], float(sys.argv[2]), Sway if "sway" in sys.argv else Ope
 desk.play()
 desk.click(MORE)
 desk.answer("Escape")
+entry, = pathlib.Path(__file__).parents[2].glob("packaging/*.desktop")
+assert desk.window in desk.windows.of(entry), "the desktop does not know whose window it is"
 desk.click(PLAY)
 seen = desk.turn()
 kind, following = seen.card(CELLS[START]), seen.card(PREVIEW)

@@ -4,6 +4,7 @@ Each is made for a Desktop, starts its program, which makes the file "ready" onc
 words. Places are in logical pixels."""
 import json
 import os
+import re
 import signal
 import subprocess
 
@@ -23,6 +24,11 @@ class Openbox:
     def shown(self, title):
         """The ids of the windows that are visible and have this title."""
         return set(self.do("search", "--onlyvisible", "--name", f"^{title}$").split())
+
+    def of(self, entry):
+        """The ids of the windows by which a desktop knows the program of this desktop entry."""
+        name = re.search("^StartupWMClass=(.*)$", entry.read_text(), re.M)[1]
+        return set(self.do("search", "--class", f"^{name}$").split())
 
     def where(self, window):
         """Where the window is; only good for comparison."""
@@ -67,6 +73,9 @@ class Sway:
 
     def shown(self, title):
         return {node["id"] for node in self.tree() if node["name"] == title and node.get("visible")}
+
+    def of(self, entry):
+        return {node["id"] for node in self.tree() if node.get("app_id") == entry.stem}
 
     def where(self, window):
         return next(node["rect"] for node in self.tree() if node["id"] == window)
