@@ -1,5 +1,5 @@
 # The game as it is installed, far from its build, played without a screen: read, pressed and typed through the
-# accessibility bus alone. usage: unseen.py BUILD
+# accessibility bus alone. usage: unseen.py BUILD|INSTALLED-PROGRAM
 
 import os
 import re
@@ -62,9 +62,10 @@ def play_a_game():
     return heard
 
 
-desk = Desk(None)
-subprocess.run(["cmake", "--install", sys.argv[1], "--component", "system", "--prefix", desk.folder], check=True)
-desk.program = desk.folder / "games/tesselor"
+desk = Desk(sys.argv[1])
+if os.path.isdir(desk.program):
+    subprocess.run(["cmake", "--install", desk.program, "--component", "system", "--prefix", desk.folder], check=True)
+    desk.program = desk.folder / "games/tesselor"
 bus = desk.start("dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address=1", stdout=subprocess.PIPE)
 os.environ |= {"DBUS_SESSION_BUS_ADDRESS": bus.stdout.readline().strip(), "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
                "TESSELOR_HOME": ""}

@@ -1,5 +1,5 @@
 """A virtual desktop with the game on it, seen as pixels and driven by mouse and keyboard: for tests, screenshots and
-measurements."""
+measurements. TESSELOR_PROGRAM in the environment names the game; that of the release build when it does not."""
 import atexit
 import os
 import pathlib
@@ -10,6 +10,9 @@ import time
 
 import numpy
 from windows import Openbox
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+GAME = pathlib.Path(os.environ.get("TESSELOR_PROGRAM", ROOT / "build/release/tesselor"))
 
 # Where things are, in logical pixels from the window's corner.
 HELP, SCORE, MENU, PLAY, MINIMISE, EXIT = (367, 125), (367, 172), (367, 217), (366, 262), (363, 11), (384, 11)
