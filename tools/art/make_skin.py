@@ -12,6 +12,7 @@ Tiles and erasers span 0 0 60 60; symbols are drawn about the origin within 20 u
 import argparse
 import pathlib
 import re
+import subprocess
 import tomllib
 
 import svg
@@ -85,6 +86,8 @@ def main():
         sheet = drawing(source, range(COLUMNS * ROWS), COLUMNS)
         refuse_broken(sheet)
         svg.rasterise(sheet, given.out, COLUMNS * CELL * SCALE, ROWS * CELL * SCALE)
+        # The renderer does not look for repetitions: this takes a fifth off the file, and half off the time to read it.
+        subprocess.run(["optipng", "-quiet", "-f0", "-zc9", "-zm9", "-zs0", "-strip", "all", given.out], check=True)
 
 
 if __name__ == "__main__":
