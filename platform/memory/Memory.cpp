@@ -3,7 +3,8 @@
 #include <cstdint>
 #include <cstring>
 
-#ifdef __GLIBC__  // which the headers above define
+// The headers above define __GLIBC__. While debugging, breakpoints would go with the pages they are in.
+#if defined(__GLIBC__) && defined(NDEBUG)
 #include <link.h>
 #include <malloc.h>
 #include <sys/mman.h>

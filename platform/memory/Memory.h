@@ -1,7 +1,7 @@
 #pragma once
 
-// What the game gives back to the system. On systems without the means, nothing happens and the game only
-// holds more memory.
+// What the game gives back to the system. On systems without the means, and in builds for debugging, nothing
+// happens and the game only holds more memory.
 namespace Memory {
 
 // Lets the heap return large blocks at once, and all threads share it. Called first of all.
