@@ -80,7 +80,7 @@ QString WhyNotASheet(const QString& path) {
     if (!opened.open(QIODevice::ReadOnly)) return AboutFile(path, Tesselor::tr("\"%1\" cannot be opened."));
     QByteArray start = opened.read(kStartBytes);
     QBuffer buffer(&start);
-    QImageReader reader(&buffer, file.suffix().toLatin1());  // or Qt would load all its plugins
+    QImageReader reader(&buffer);
     const Head head(reader);
     const bool comesLater = !head.size.isValid() && IsOfPixels(head.format) && file.size() > kStartBytes;
     const QString why = comesLater ? QString() : WhyNotThisSize(head.size);

@@ -66,8 +66,8 @@ TEST_F(Skins, ThatAreNoneTakeNoSlotAndAreRefused) {
     EXPECT_TRUE(QFile::exists(outside.filePath("cut.png")));
     for (const auto& [format, bytes] : whole) {
         QString why;
-        WriteFile(outside.filePath("whole"), bytes);
-        EXPECT_TRUE(PictureSheet::Load(outside.filePath("whole"), why)) << format.toStdString();
+        WriteFile(outside.filePath("whole.svg"), bytes);
+        EXPECT_TRUE(PictureSheet::Load(outside.filePath("whole.svg"), why)) << format.toStdString();
     }
     make(Art());
     Open();
