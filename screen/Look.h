@@ -25,9 +25,11 @@ inline constexpr Colour kEmptySlot = 0xD6E4EA;  // a slot without a skin
 inline const QColor kBrass(0xC9, 0xA2, 0x4B), kDarkBrass(0x8A, 0x66, 0x1E);
 inline const QColor kRule(0xB8, 0x9A, 0x5A);  // lines of a table, edges of keys
 
+// The typeface of all text.
+inline constexpr const char* kFamily = "Open Sans";
+
 // A heading is as large as other text, but heavier; a caption is in spaced capitals. Sizes are in logical
 // pixels; figures are tabular.
-inline constexpr const char* kFamily = "Open Sans";
 enum class Text { Caption, Small, Normal, Heading, Number };
 [[nodiscard]] QFont Font(Text text);
 

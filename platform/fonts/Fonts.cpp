@@ -7,6 +7,7 @@
 #include <QFontDatabase>
 #include <QWidget>
 #include <algorithm>
+#include <utility>
 
 namespace {
 
