@@ -33,16 +33,17 @@ constexpr std::array<CellLines, kCells> kLines = [] {
     return all;
 }();
 
-using Element = decltype(&CardInfo::Quantity);
+// One element of the four cards.
+using Elements = std::array<std::int32_t, kSide>;
 
-bool AllEqual(const LineCards& line, Element element) {
-    return line[0].*element == line[1].*element && line[1].*element == line[2].*element &&
-           line[2].*element == line[3].*element;
+Elements ElementsOf(const LineCards& line, std::int32_t CardInfo::*element) {
+    return {line[0]->*element, line[1]->*element, line[2]->*element, line[3]->*element};
 }
 
-bool IsSeries(const LineCards& line, std::int32_t first, std::int32_t step) {
-    return line[0].Quantity == first && line[1].Quantity == first + step &&
-           line[2].Quantity == first + 2 * step && line[3].Quantity == first + 3 * step;
+// Counts instead of stopping at the first difference, where a processor would guess wrongly on random cards.
+bool AllEqual(const Elements& elements) {
+    const auto [first, second, third, fourth] = elements;
+    return (first == second) + (second == third) + (third == fourth) == 3;
 }
 
 }  // namespace
@@ -53,7 +54,8 @@ std::span<const LineCells> LinesThrough(std::int16_t cell) noexcept {
 }
 
 std::int16_t SharedElements(const LineCards& line) noexcept {
-    return static_cast<std::int16_t>(AllEqual(line, &CardInfo::AttrB) + AllEqual(line, &CardInfo::Quantity) +
-                                     AllEqual(line, &CardInfo::AttrA) + IsSeries(line, 1, 1) +
-                                     IsSeries(line, 4, -1));
+    const Elements quantities = ElementsOf(line, &CardInfo::Quantity);
+    return static_cast<std::int16_t>(AllEqual(ElementsOf(line, &CardInfo::AttrA)) +
+                                     AllEqual(ElementsOf(line, &CardInfo::AttrB)) + AllEqual(quantities) +
+                                     (quantities == Elements{1, 2, 3, 4}) + (quantities == Elements{4, 3, 2, 1}));
 }

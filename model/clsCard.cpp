@@ -205,7 +205,7 @@ void clsCard::CheckLines() {
 }
 
 LineCards clsCard::CardsOf(const LineCells& line) const {
-    return {CardAt(line[0]), CardAt(line[1]), CardAt(line[2]), CardAt(line[3])};
+    return {&CardAt(line[0]), &CardAt(line[1]), &CardAt(line[2]), &CardAt(line[3])};
 }
 
 void clsCard::ScoreLines(std::int16_t sharedElements) {
