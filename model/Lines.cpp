@@ -55,7 +55,7 @@ std::span<const LineCells> LinesThrough(std::int16_t cell) noexcept {
 
 std::int16_t SharedElements(const LineCards& line) noexcept {
     const Elements quantities = ElementsOf(line, &CardInfo::Quantity);
-    return static_cast<std::int16_t>(AllEqual(ElementsOf(line, &CardInfo::AttrA)) +
-                                     AllEqual(ElementsOf(line, &CardInfo::AttrB)) + AllEqual(quantities) +
-                                     (quantities == Elements{1, 2, 3, 4}) + (quantities == Elements{4, 3, 2, 1}));
+    return static_cast<std::int16_t>(
+        AllEqual(ElementsOf(line, &CardInfo::AttrA)) + AllEqual(ElementsOf(line, &CardInfo::AttrB)) +
+        AllEqual(quantities) + (quantities == Elements{1, 2, 3, 4}) + (quantities == Elements{4, 3, 2, 1}));
 }

@@ -1,5 +1,6 @@
 #include "platform/sound/SoundPlayer.h"
 
+#include <QTimer>
 #include <condition_variable>
 #include <mutex>
 #include <system_error>
@@ -42,28 +43,38 @@ SoundPlayer::~SoundPlayer() {
 
 bool SoundPlayer::Play(const QByteArray& wave) {
     auto sound = WaveData::Read(wave);
-    if (!sound || (!desk_ && !Begin())) return false;
+    const bool isFirst = !desk_;
+    if (!sound || !Begin()) return false;
     {
         const std::lock_guard lock(desk_->mutex);
         desk_->newest = Sound{std::move(*sound), QDeadlineTimer(kLate)};
     }
-    desk_->server.Wake();
+    if (isFirst)  // the window is still being made, which loading libpulse would delay
+        QTimer::singleShot(0, [desk = desk_] { desk->server.Wake(); });
+    else
+        desk_->server.Wake();
     return desk_->server.Works();
 }
 
 bool SoundPlayer::Begin() {
+    if (desk_) {
+        if (std::unique_lock lock(desk_->mutex); !desk_->hasEnded) return true;
+        thread_.join();
+        desk_.reset();
+    }
     try {
         auto desk = std::make_shared<Desk>();
         thread_ = std::thread(Work, desk);
         desk_ = std::move(desk);
     } catch (const std::system_error&) {
-        return false;  // out of files or threads; the next sound tries again
+        return false;  // out of files or threads
     }
     return true;
 }
 
 void SoundPlayer::Work(const std::shared_ptr<Desk>& desk) {
-    for (;;) {
+    const bool starts = desk->server.Start();
+    while (starts) {
         desk->server.AwaitEvent();
         std::unique_lock lock(desk->mutex);
         if (desk->toEnd) break;

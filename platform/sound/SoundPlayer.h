@@ -7,7 +7,7 @@
 
 // The computer's sound. Play hands the sound to a thread, so it never blocks, even if the sound server
 // hangs; if sounds arrive faster than they can be started, the newest wins. The thread starts with the first
-// sound and sleeps between sounds.
+// sound and sleeps between sounds. Where it cannot start, the next sound tries again.
 class SoundPlayer final : public SoundOutput {
 public:
     SoundPlayer() = default;

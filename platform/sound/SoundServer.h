@@ -28,10 +28,12 @@ public:
     SoundServer(const SoundServer&) = delete;
     SoundServer& operator=(const SoundServer&) = delete;
 
+    // Called first: waits for Wake and loads libpulse. False without it, or when out of file descriptors.
+    bool Start();
     // Cuts off the previous sound and starts `sound`, connecting first if there is no connection.
     void Play(Sound sound);
     // Sleeps until it has handled an event from the server, or until Wake.
-    void AwaitEvent() { pa_mainloop_iterate(loop_, 1, nullptr); }
+    void AwaitEvent();
     // Ends the sound and the connection.
     void Disconnect();
 
