@@ -2,8 +2,10 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <future>
 
 #include "platform/fonts/Fonts.h"
 #include "platform/language/Language.h"
@@ -51,10 +53,14 @@ int main(int argc, char* argv[]) {
     if (const passwd* user = getpwuid(getuid()); user && !qEnvironmentVariableIsSet("HOME"))
         qputenv("HOME", user->pw_dir);
     Memory::ShareHeap();
-    Fonts::ListOnly(Look::kFamily);
+    // Reads the settings for fonts while Qt waits for the display. Their numbers are read in the locale, which
+    // Qt sets meanwhile: to what it is already.
+    std::setlocale(LC_ALL, "");
+    const auto fonts = std::async(Fonts::ListOnly, Look::kFamily);
     theUsualHandler = qInstallMessageHandler(EndWithoutDisplay);
     QApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     QApplication application(argc, argv);
+    fonts.wait();
     qInstallMessageHandler(theUsualHandler);
     QApplication::setApplicationName(QStringLiteral("Tesselor"));
     QApplication::setDesktopFileName(QStringLiteral(TESSELOR_ID));

@@ -8,7 +8,7 @@
 namespace Fonts {
 
 // Hides all but one family from Qt until the rest is needed; hides none if that family is not installed.
-// Called once, before the application object.
+// Called once, before the application object or while another thread makes it.
 void ListOnly(const char* family);
 
 // Lists them all, once, if the text has a letter that the family lacks. Called before a text that may come
