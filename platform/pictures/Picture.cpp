@@ -1,8 +1,9 @@
 #include "platform/pictures/Picture.h"
 
-#include <QPainter>
+#include <QGuiApplication>
 #include <array>
 #include <cmath>
+#include <future>
 #include <new>
 
 #include "platform/pictures/PixelFile.h"
@@ -16,7 +17,12 @@ class ArtSource final : public PictureSource {
 public:
     explicit ArtSource(QString name) : name_(std::move(name)) {}
 
+    void UnpackFor(qreal scale) {
+        unpacked_ = std::async([this, scale] { return Draw(scale); });
+    }
+
     QImage Render(int /*cell*/, qreal scale) const override {
+        if (unpacked_.valid()) image_ = unpacked_.get();
         if (image_.isNull() || image_.devicePixelRatio() != scale) image_ = Draw(scale);
         return image_;
     }
@@ -38,6 +44,7 @@ private:
 
     QString name_;
     mutable QImage image_;  // the one for the scale last asked for
+    mutable std::future<QImage> unpacked_;
 };
 
 }  // namespace
@@ -52,4 +59,10 @@ QImage Picture::At(qreal scale) const {
 
 Picture WindowArt(const QString& name) {
     return {std::make_shared<ArtSource>(name), 0};
+}
+
+Picture FirstArt(const QString& name) {
+    const auto art = std::make_shared<ArtSource>(name);
+    art->UnpackFor(qGuiApp->devicePixelRatio());
+    return {art, 0};
 }

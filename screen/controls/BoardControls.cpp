@@ -11,7 +11,8 @@ BoardControls::BoardControls(QWidget* window)
                                {window, {11190, 7800, 3915, 3915}, "Frame2"},
                                {window, {15240, 7800, 3915, 3915}, "Frame2"}}}) {
     fraScreen[0].BackColor(Look::kTray);
-    for (const int screen : {1, 2, 3}) fraScreen[screen].Background(WindowArt("panel"));
+    const Picture panel = FirstArt("panel");
+    for (const int screen : {1, 2, 3}) fraScreen[screen].Background(panel);
 }
 
 void BoardControls::ConnectBoard(frmGame& form) {

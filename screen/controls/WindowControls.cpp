@@ -8,7 +8,7 @@
 
 WindowControls::WindowControls(QWidget* itsWindow) : window(itsWindow) {
     using Look::Text;
-    Background.Picture(WindowArt("background"));
+    Background.Picture(FirstArt("background"));
     Background.setAttribute(Qt::WA_TransparentForMouseEvents);
     Image1.Picture(WindowArt("exit"));
     Image1.HoverPicture(WindowArt("exit-hover"));
