@@ -53,8 +53,8 @@ int main(int argc, char* argv[]) {
     if (const passwd* user = getpwuid(getuid()); user && !qEnvironmentVariableIsSet("HOME"))
         qputenv("HOME", user->pw_dir);
     Memory::ShareHeap();
-    // Reads the settings for fonts while Qt waits for the display. Their numbers are read in the locale, which
-    // Qt sets meanwhile: to what it is already.
+    // Reads the settings for fonts while Qt waits for the display. Their numbers are read in the locale,
+    // which Qt sets meanwhile: to what it is already.
     std::setlocale(LC_ALL, "");
     const auto fonts = std::async(Fonts::ListOnly, Look::kFamily);
     theUsualHandler = qInstallMessageHandler(EndWithoutDisplay);
