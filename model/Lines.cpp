@@ -40,10 +40,15 @@ Elements ElementsOf(const LineCards& line, std::int32_t CardInfo::*element) {
     return {line[0]->*element, line[1]->*element, line[2]->*element, line[3]->*element};
 }
 
-// Counts instead of stopping at the first difference, where a processor would guess wrongly on random cards.
+// Compares all four before it decides: a processor would guess wrongly on random cards.
+bool Same(const Elements& these, const Elements& those) {
+    return ((these[0] ^ those[0]) | (these[1] ^ those[1]) | (these[2] ^ those[2]) | (these[3] ^ those[3])) ==
+           0;
+}
+
 bool AllEqual(const Elements& elements) {
-    const auto [first, second, third, fourth] = elements;
-    return (first == second) + (second == third) + (third == fourth) == 3;
+    const std::int32_t first = elements[0];
+    return Same(elements, {first, first, first, first});
 }
 
 }  // namespace
@@ -55,7 +60,7 @@ std::span<const LineCells> LinesThrough(std::int16_t cell) noexcept {
 
 std::int16_t SharedElements(const LineCards& line) noexcept {
     const Elements quantities = ElementsOf(line, &CardInfo::Quantity);
-    return static_cast<std::int16_t>(
-        AllEqual(ElementsOf(line, &CardInfo::AttrA)) + AllEqual(ElementsOf(line, &CardInfo::AttrB)) +
-        AllEqual(quantities) + (quantities == Elements{1, 2, 3, 4}) + (quantities == Elements{4, 3, 2, 1}));
+    return static_cast<std::int16_t>(AllEqual(ElementsOf(line, &CardInfo::AttrA)) +
+                                     AllEqual(ElementsOf(line, &CardInfo::AttrB)) + AllEqual(quantities) +
+                                     Same(quantities, {1, 2, 3, 4}) + Same(quantities, {4, 3, 2, 1}));
 }
