@@ -17,6 +17,8 @@ constexpr auto kLate = 1s;
 constexpr auto kPatienceAtTheEnd = 200ms;
 // Delay the sound so that drawing comes first: each slows the other down, and the delay is inaudible.
 constexpr auto kBehindThePicture = 3ms;
+// The same for the first sound, which needs libpulse: its loading must not delay the window.
+constexpr auto kBehindTheWindow = 100ms;
 
 }  // namespace
 
@@ -49,8 +51,8 @@ bool SoundPlayer::Play(const QByteArray& wave) {
         const std::lock_guard lock(desk_->mutex);
         desk_->newest = Sound{std::move(*sound), QDeadlineTimer(kLate)};
     }
-    if (isFirst)  // the window is still being made, which loading libpulse would delay
-        QTimer::singleShot(0, [desk = desk_] { desk->server.Wake(); });
+    if (isFirst)
+        QTimer::singleShot(kBehindTheWindow, [desk = desk_] { desk->server.Wake(); });
     else
         desk_->server.Wake();
     return desk_->server.Works();
