@@ -31,6 +31,14 @@ bool IsOfPixels(const QByteArray& format) {
     return !format.isEmpty() && !format.startsWith("svg");
 }
 
+// Tells the reader of a PNG, as most skins are, the format. To find it out, the reader would load all plugins
+// of the desktop, of which there may be dozens.
+void TellFormat(QImageReader& reader, const QByteArray& bytes) {
+    if (!bytes.startsWith("\x89PNG\r\n\x1a\n")) return;
+    reader.setFormat("png");
+    reader.setAutoDetectImageFormat(false);
+}
+
 // The format and the size in the head of a picture; the size is invalid when it cannot be read.
 struct Head {
     explicit Head(QImageReader& reader) : format(reader.format()) {
@@ -81,6 +89,7 @@ QString WhyNotASheet(const QString& path) {
     QByteArray start = opened.read(kStartBytes);
     QBuffer buffer(&start);
     QImageReader reader(&buffer);
+    TellFormat(reader, start);
     const Head head(reader);
     const bool comesLater = !head.size.isValid() && IsOfPixels(head.format) && file.size() > kStartBytes;
     const QString why = comesLater ? QString() : WhyNotThisSize(head.size);
@@ -99,6 +108,7 @@ QImage Allocated(QImage image) {
 QImage DecodeSheet(const QByteArray& bytes, QDeadlineTimer end, QString& why, int mostCell) {
     ExpiringBytes device(bytes, end);
     QImageReader reader(&device);
+    TellFormat(reader, bytes);
     const Head head(reader);
     why = WhyNotThisSize(head.size);
     if (!why.isEmpty()) return {};
