@@ -63,6 +63,6 @@ Picture WindowArt(const QString& name) {
 
 Picture FirstArt(const QString& name) {
     const auto art = std::make_shared<ArtSource>(name);
-    art->UnpackFor(qGuiApp->devicePixelRatio());
+    if (const qreal scale = qGuiApp->devicePixelRatio(); scale > 1) art->UnpackFor(scale);
     return {art, 0};
 }

@@ -25,7 +25,7 @@ QImage PackedPixels(const QString& name) {
     Head head{};
     if (bytes->size() < qsizetype(sizeof head)) return {};
     std::memcpy(&head, bytes->constData(), sizeof head);
-    auto* const pixels = reinterpret_cast<uchar*>(bytes->data()) + sizeof head;
+    const auto* const pixels = reinterpret_cast<const uchar*>(bytes->constData()) + sizeof head;
     const auto release = [](void* kept) { delete static_cast<QByteArray*>(kept); };
     return {pixels,
             head.width,
