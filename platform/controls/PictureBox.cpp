@@ -64,13 +64,19 @@ private:
 
 }  // namespace
 
-QImage PictureContents::Render(qreal scale) const {
-    QImage image((QSizeF(size) * scale).toSize(), QImage::Format_RGB32);
-    image.fill(ToQColor(background));
-    QPainter painter(&image);
+void PictureContents::Paint(QPainter& painter, qreal scale) const {
+    const QRect area({0, 0}, (QSizeF(size) * scale).toSize());
+    painter.setClipRect(area);
+    painter.fillRect(area, ToQColor(background));
     Draw(painter, PaintedPicture{picture, {0, 0}}, scale);
     for (const auto& drawing : drawings)
         std::visit([&](const auto& drawn) { Draw(painter, drawn, scale); }, drawing);
+}
+
+QImage PictureContents::Render(qreal scale) const {
+    QImage image((QSizeF(size) * scale).toSize(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    Paint(painter, scale);
     painter.end();
     image.setDevicePixelRatio(scale);
     return image;
@@ -157,6 +163,6 @@ void PictureBox::paintEvent(QPaintEvent* /*event*/) {
     if (border_ > 0) Outline(painter, whole, 1, ToQColor(0x3A2A1C));
     const int sunk = IsPressed() ? qRound(scale) : 0;
     if (sunk > 0) painter.fillRect(whole, ToQColor(0x7A8894));  // the shadow of the edge above
-    const QPoint corner = QPointF(border_ * scale, border_ * scale).toPoint();
-    DrawPixels(painter, corner + QPoint(0, sunk), contents_.Render(scale));
+    painter.translate(QPointF(border_ * scale, border_ * scale + sunk).toPoint());
+    contents_.Paint(painter, scale);
 }

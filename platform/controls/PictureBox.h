@@ -36,6 +36,8 @@ struct PictureContents {
     Picture picture;
     std::vector<std::variant<DrawnBox, PaintedPicture>> drawings;
 
+    // Paints them on a painter that works in device pixels, with their corner at its origin.
+    void Paint(QPainter& painter, qreal scale) const;
     [[nodiscard]] QImage Render(qreal scale) const;
 };
 
