@@ -1,6 +1,7 @@
 #include "screen/Look.h"
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QPalette>
 #include <QProxyStyle>
 
@@ -77,6 +78,11 @@ void Apply(QApplication& application) {
     QApplication::setStyle(new Style);  // which Qt owns
     QApplication::setPalette(Palette());
     application.setFont(Font(Text::Normal));
+}
+
+void OpenFonts() {
+    for (const Text text : {Text::Small, Text::Normal, Text::Caption, Text::Number})
+        (void)QFontMetrics(Font(text)).horizontalAdvance(QStringLiteral("a1"));
 }
 
 }  // namespace Look

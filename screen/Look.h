@@ -36,4 +36,8 @@ enum class Text { Caption, Small, Normal, Heading, Number };
 // Style, palette and font of the application. Called once, before the first window.
 void Apply(QApplication& application);
 
+// Opens the fonts of the help screen, which the first paint would do otherwise. Called once the first window
+// is shown, as the display takes about as long to put it on the screen.
+void OpenFonts();
+
 }  // namespace Look

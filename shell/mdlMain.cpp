@@ -67,6 +67,7 @@ int mdlMain::Main() {
     frmGame form({time, random, dialogs, soundFiles, ProgramFolder::Find(), [] { std::_Exit(EXIT_SUCCESS); },
                   OpenAddress});
     form.show();
+    Look::OpenFonts();
     const int status = QApplication::exec();
     if (time.IsBusy()) std::_Exit(status);  // a decoding thread would outlive what it uses
     return status;
