@@ -9,8 +9,8 @@ struct CellLines {
     std::size_t count = 0;
 
     constexpr void Add(int firstCell, int step) {
-        for (std::int16_t& cell : lines[count]) {
-            cell = static_cast<std::int16_t>(firstCell);
+        for (std::uint8_t& cell : lines[count]) {
+            cell = static_cast<std::uint8_t>(firstCell);
             firstCell += step;
         }
         ++count;

@@ -10,7 +10,7 @@
 
 // The cells of one line in the order in which a series is read: a column from the top, a row from the left,
 // the main diagonal from the top left, the anti-diagonal from the bottom left.
-using LineCells = std::array<std::int16_t, kSide>;
+using LineCells = std::array<std::uint8_t, kSide>;
 // The cards of one line, in the same order; none is null.
 using LineCards = std::array<const CardInfo*, kSide>;
 

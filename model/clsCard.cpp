@@ -190,7 +190,7 @@ void clsCard::CheckLines() {
     std::int16_t total = 0;
     for (std::size_t i = 0; i < lines.size(); ++i) {
         shared[i] = SharedElements(CardsOf(lines[i]));
-        total = SaturatedSum(total, shared[i]);
+        total = static_cast<std::int16_t>(total + shared[i]);
     }
     ScoreLines(total);
 
@@ -205,7 +205,8 @@ void clsCard::CheckLines() {
 }
 
 LineCards clsCard::CardsOf(const LineCells& line) const {
-    return {&CardAt(line[0]), &CardAt(line[1]), &CardAt(line[2]), &CardAt(line[3])};
+    const auto card = [this](std::uint8_t cell) { return &ArrMatrix_[cell / kSide][cell % kSide]; };
+    return {card(line[0]), card(line[1]), card(line[2]), card(line[3])};
 }
 
 void clsCard::ScoreLines(std::int16_t sharedElements) {
