@@ -50,8 +50,8 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const 
 int main(int argc, char* argv[]) {
     if (const auto status = AnswerCommandLine(argc, argv)) return *status;
     // Otherwise Qt would store the player's files in the root folder.
-    if (const passwd* user = getpwuid(getuid()); user && !qEnvironmentVariableIsSet("HOME"))
-        qputenv("HOME", user->pw_dir);
+    if (!qEnvironmentVariableIsSet("HOME"))
+        if (const passwd* user = getpwuid(getuid())) qputenv("HOME", user->pw_dir);
     Memory::ShareHeap();
     // Reads the settings for fonts while Qt waits for the display. Their numbers are read in the locale,
     // which Qt sets meanwhile: to what it is already.

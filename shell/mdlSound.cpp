@@ -1,6 +1,6 @@
 #include "shell/mdlSound.h"
 
-#include <QFile>
+#include <QResource>
 #include <array>
 #include <cassert>
 
@@ -12,9 +12,9 @@ namespace {
 SoundOutput* theOutput = nullptr;
 std::array<QByteArray, kLastSound - kFirstSound + 1> theWaves;
 
+// Not copied: the program holds its sounds as they are.
 QByteArray Resource(std::int16_t number) {
-    QFile file(QStringLiteral(":/wave/%1.wav").arg(number));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return QResource(QStringLiteral(":/wave/%1.wav").arg(number)).uncompressedData();
 }
 
 }  // namespace
