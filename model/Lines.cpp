@@ -33,10 +33,11 @@ constexpr std::array<CellLines, kCells> kLines = [] {
     return all;
 }();
 
+using Element = std::int32_t CardInfo::*;
 // One element of the four cards.
 using Elements = std::array<std::int32_t, kSide>;
 
-Elements ElementsOf(const LineCards& line, std::int32_t CardInfo::*element) {
+Elements ElementsOf(const LineCards& line, Element element) {
     return {line[0]->*element, line[1]->*element, line[2]->*element, line[3]->*element};
 }
 
