@@ -36,6 +36,6 @@ private:
 
 // The drawing `name` of the window's art, from the program's resources, in the best size for each scale.
 [[nodiscard]] Picture WindowArt(const QString& name);
-// The same for a large drawing of the first screen: where the art is packed, at scales above 1, a thread
+// The same for a large drawing of the first screen. At scales above 1, where the art is compressed, a thread
 // unpacks it for the largest scale of the desktop while the window is being made.
 [[nodiscard]] Picture FirstArt(const QString& name);

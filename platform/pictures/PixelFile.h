@@ -8,6 +8,6 @@
 // The pixels of `image`, premultiplied, behind their size and whether they can be seen through.
 [[nodiscard]] QByteArray PackPixels(const QImage& image);
 
-// The picture `name` ("window/panel@100") of the program's resources; null when there is none. One that is
-// not packed is not copied either until it is changed.
+// The picture `name` ("window/panel@100") of the program's resources; null when there is none. Its pixels are
+// copied only if they are compressed or once they are changed.
 [[nodiscard]] QImage PackedPixels(const QString& name);

@@ -31,8 +31,8 @@ bool IsOfPixels(const QByteArray& format) {
     return !format.isEmpty() && !format.startsWith("svg");
 }
 
-// Tells the reader of a PNG, as most skins are, the format. To find it out, the reader would load all plugins
-// of the desktop, of which there may be dozens.
+// Sets the format of a PNG, which most skins are. To detect it, the reader would first load every plugin, and
+// a desktop may have dozens.
 void TellFormat(QImageReader& reader, const QByteArray& bytes) {
     if (!bytes.startsWith("\x89PNG\r\n\x1a\n")) return;
     reader.setFormat("png");
